@@ -1,0 +1,42 @@
+#include "AppGlobals.h"
+
+#include <QCoreApplication>
+#include <QTranslator>
+
+QSettings* AppGlobals::settings = nullptr;
+QString AppGlobals::programFolder;
+QString AppGlobals::resourcesFolder;
+QString AppGlobals::dataFolder;
+int AppGlobals::logLevel = 5;
+int AppGlobals::languageIndex = 0;
+QString AppGlobals::installId;
+QString AppGlobals::version;
+QTranslator* AppGlobals::translator = nullptr;
+bool AppGlobals::updateChecksAllowed = false;
+bool AppGlobals::autoCrashReports = false;
+int AppGlobals::volume = 100;
+bool AppGlobals::mute = false;
+QString AppGlobals::snapshotPath;
+QString AppGlobals::videoPath;
+
+QString AppGlobals::statusLogPath() {
+    return dataFolder + QLatin1String(kStatusLogName);
+}
+
+QString AppGlobals::translationFile(int index) {
+    static const char* const files[] = {"/translation/trans_en.qm", "/translation/trans_ko.qm",
+                                        "/translation/trans_he.qm"};
+    if (index < 0 || index > 2)
+        return QString();
+    return resourcesFolder + QLatin1String(files[index]);
+}
+
+void AppGlobals::installTranslation(int index) {
+    if (translator == nullptr)
+        translator = new QTranslator;
+    QCoreApplication::removeTranslator(translator);
+    // load() drops the previous translation first, so an unknown index or a missing file
+    // leaves the translator empty and the source texts show.
+    translator->load(translationFile(index));
+    QCoreApplication::installTranslator(translator);
+}

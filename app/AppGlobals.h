@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QString>
+
+class QSettings;
+class QTranslator;
+
+// Values shared by the whole process. They are set during start-up, before any worker
+// thread exists, and read everywhere afterwards.
+class AppGlobals {
+public:
+    static constexpr const char* kProgramVersion = "1.0.6";
+    static constexpr const char* kStatusLogName = "/playerStatus.txt";
+
+    static QSettings* settings;
+    static QString programFolder;
+    static QString resourcesFolder;
+    static QString dataFolder;
+    static int logLevel;
+    static int languageIndex;
+    static QString installId;
+    static QString version;
+    static QTranslator* translator;
+
+    // From the stored privacy agreement.
+    static bool updateChecksAllowed;
+    static bool autoCrashReports;
+
+    // Kept in the settings store and saved at exit.
+    static int volume;
+    static bool mute;
+    static QString snapshotPath;
+    static QString videoPath;
+
+    static QString statusLogPath();
+
+    // The translation file for a language index (0 English, 1 Korean, 2 Hebrew), or an
+    // empty text for any other index.
+    static QString translationFile(int languageIndex);
+
+    // Replaces the installed translation with the one for languageIndex. Any other index
+    // leaves the translator empty, so the source texts show.
+    static void installTranslation(int languageIndex);
+};

@@ -1,0 +1,108 @@
+#include "AppStartup.h"
+
+#include "AppGlobals.h"
+#include "Frameless.h"
+#include "MainWindow.h"
+#include "ProcessPriority.h"
+#include "StatusLog.h"
+#include "TerminationSignal.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QPixmap>
+#include <QScreen>
+#include <QSettings>
+#include <QSocketNotifier>
+#include <QSplashScreen>
+#include <QStandardPaths>
+#include <QTranslator>
+
+namespace {
+
+// Ends the event loop when the session asks the program to terminate, so that the normal
+// shutdown (settings saved, log removed) runs.
+void quitOnTerminationRequest() {
+    const int fd = platform::terminationRequestDescriptor();
+    if (fd < 0)
+        return;
+    auto* notifier = new QSocketNotifier(fd, QSocketNotifier::Read, qApp);
+    QObject::connect(notifier, &QSocketNotifier::activated, qApp, [] {
+        platform::clearTerminationRequests();
+        logInfo("[Main]: Termination requested.");
+        QCoreApplication::quit();
+    });
+}
+
+void writeLogHeader() {
+    const char* const rule = "--------------------------------------------------";
+    logLine("%s", rule);
+    logLine(" This is log file to record Player status.");
+    logLine(" This file should not collect user's information.");
+    logLine("%s", rule);
+}
+
+} // namespace
+
+void AppStartup::initialiseFolders() {
+    AppGlobals::programFolder = QCoreApplication::applicationDirPath();
+    AppGlobals::dataFolder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+    QDir().mkpath(AppGlobals::dataFolder);
+    AppGlobals::logLevel = 5;
+    AppGlobals::resourcesFolder = AppGlobals::programFolder + "/Resources";
+}
+
+void AppStartup::readStoredValues() {
+    QSettings& settings = *AppGlobals::settings;
+    AppGlobals::languageIndex = settings.value("language", 0).toInt();
+    AppGlobals::installId = settings.value("id").toString();
+    AppGlobals::version = settings.value("version").toString();
+    if (AppGlobals::version != QLatin1String(AppGlobals::kProgramVersion)) {
+        AppGlobals::version = QLatin1String(AppGlobals::kProgramVersion);
+        settings.setValue("version", AppGlobals::version);
+        settings.sync();
+    }
+}
+
+int AppStartup::run(int& argc, char** argv) {
+    QApplication app(argc, argv);
+    QCoreApplication::setApplicationName("ZENTA DASHCAM");
+    QCoreApplication::setOrganizationName("com.ZENTA_DASHCAM");
+    QCoreApplication::setOrganizationDomain("com.ZENTA_DASHCAM");
+
+    AppGlobals::settings = new QSettings("qorbu", "tavoric");
+    initialiseFolders();
+
+    writeLogHeader();
+    logInfo("[Main]: Program is run.");
+    logInfo("[Main]: Main Function start now.");
+    logInfo("[Main]: QApplication start..");
+
+    AppGlobals::translator = new QTranslator;
+    readStoredValues();
+
+    QScreen* screen = QGuiApplication::primaryScreen();
+    const QRect screenRect = screen != nullptr ? screen->geometry() : QRect();
+    logInfo("[Main]: Set Splash image...");
+    auto* splash = new QSplashScreen(QPixmap(AppGlobals::resourcesFolder + "/image/splash.webp"));
+    splash->move(screenRect.center() - splash->rect().center());
+    splash->show();
+    logLine("Complete! ");
+
+    logInfo("[Main]: Set Translation file...");
+    AppGlobals::installTranslation(AppGlobals::languageIndex);
+
+    platform::raiseProcessPriority();
+    quitOnTerminationRequest();
+
+    logInfo("[Main]: MainWindow start now!");
+    auto* window = new MainWindow;
+    auto* frameless = new Frameless(window);
+    window->show();
+    splash->finish(window);
+    delete splash;
+
+    const int exitCode = QApplication::exec();
+    delete frameless;
+    delete window;
+    return exitCode;
+}

@@ -1,0 +1,35 @@
+#include "ProcessPriority.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <sys/resource.h>
+
+namespace platform {
+
+namespace {
+// "Above normal" on Windows sits one class above the default; five nice steps is the usual
+// equivalent on Linux desktops.
+constexpr int kAboveNormalSteps = 5;
+} // namespace
+
+bool raiseProcessPriority() {
+    errno = 0;
+    const int current = getpriority(PRIO_PROCESS, 0);
+    if (current == -1 && errno != 0)
+        return false;
+    int target = current - kAboveNormalSteps;
+
+    // An unprivileged process may lower its nice value only down to 20 - RLIMIT_NICE. Try the
+    // full step first (root and CAP_SYS_NICE get it), then whatever the limit still allows.
+    if (setpriority(PRIO_PROCESS, 0, target) == 0)
+        return true;
+    rlimit limit{};
+    if (getrlimit(RLIMIT_NICE, &limit) != 0 || limit.rlim_cur == RLIM_INFINITY)
+        return false;
+    target = std::max(target, 20 - static_cast<int>(limit.rlim_cur));
+    if (target >= current)
+        return false;
+    return setpriority(PRIO_PROCESS, 0, target) == 0;
+}
+
+} // namespace platform

@@ -1,0 +1,11 @@
+#include "TerminationSignal.h"
+
+namespace platform {
+
+int terminationRequestDescriptor() {
+    return -1;
+}
+
+void clearTerminationRequests() {}
+
+} // namespace platform

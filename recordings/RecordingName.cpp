@@ -1,0 +1,113 @@
+#include "RecordingName.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <QStringList>
+
+const char* const RecordingName::kSingleChannelAvi =
+    "(19|20)\\d{2}(0[1-9]|1[012])(0[1-9]|1[0-9]|2[0-9]|3[01])_(0[0-9]|1[0-9]|2[0-3])([0-5][0-9])"
+    "([0-5][0-9])_([EIPU][NVRS][FTKR])_([12345]).avi";
+const char* const RecordingName::kSingleChannelMp4 =
+    "(19|20)\\d{2}(0[1-9]|1[012])(0[1-9]|1[0-9]|2[0-9]|3[01])_(0[0-9]|1[0-9]|2[0-3])([0-5][0-9])"
+    "([0-5][0-9])_([EIPU][NVRS][FTKR])_([12345]).mp4";
+const char* const RecordingName::kTwoDigitChannelAvi =
+    "(19|20)\\d{2}(0[1-9]|1[012])(0[1-9]|1[0-9]|2[0-9]|3[01])_(0[0-9]|1[0-9]|2[0-3])([0-5][0-9])"
+    "([0-5][0-9])_([EIPU][NVRS][FTKR])_([12345])_([12345]).avi";
+const char* const RecordingName::kFrontOnlyMp4 =
+    "(19|20)\\d{2}(0[1-9]|1[012])(0[1-9]|1[0-9]|2[0-9]|3[01])_(0[0-9]|1[0-9]|2[0-3])([0-5][0-9])"
+    "([0-5][0-9])_([EIPU][NVRS][FTKR])_[1].mp4";
+
+const char* const RecordingName::kMp4ChannelSuffixes[3] = {"_1.mp4", "_2.mp4", "_3.mp4"};
+const char* const RecordingName::kAviChannelSuffixes[3] = {"_1.avi", "_2.avi", "_3.avi"};
+
+namespace {
+
+// Compiled once; matching a const expression is safe from any thread.
+const QRegularExpression& singleAvi() {
+    static const QRegularExpression re(QString::fromLatin1(RecordingName::kSingleChannelAvi));
+    return re;
+}
+const QRegularExpression& singleMp4() {
+    static const QRegularExpression re(QString::fromLatin1(RecordingName::kSingleChannelMp4));
+    return re;
+}
+const QRegularExpression& twoDigitAvi() {
+    static const QRegularExpression re(QString::fromLatin1(RecordingName::kTwoDigitChannelAvi));
+    return re;
+}
+
+} // namespace
+
+bool RecordingName::isSupportedName(const QString& path) {
+    const QString name = QFileInfo(path).fileName();
+    if (name.split('_', Qt::KeepEmptyParts).size() < 4)
+        return false;
+    if (name.endsWith(QLatin1String(".avi")))
+        return singleAvi().match(name).hasMatch() || twoDigitAvi().match(name).hasMatch();
+    if (name.endsWith(QLatin1String(".mp4")))
+        return singleMp4().match(name).hasMatch();
+    return false;
+}
+
+bool RecordingName::isCardRecordingName(const QString& fileName) {
+    if (fileName.endsWith(QLatin1String(".avi")))
+        return singleAvi().match(fileName).hasMatch();
+    if (fileName.endsWith(QLatin1String(".mp4")))
+        return singleMp4().match(fileName).hasMatch();
+    return false;
+}
+
+int RecordingName::typeFromName(const QString& fileName) {
+    const QStringList parts = fileName.split('_', Qt::KeepEmptyParts);
+    if (parts.size() < 3)
+        return Unknown;
+    const QString& code = parts.at(2);
+    if (code == QLatin1String("EVT"))
+        return Event;
+    if (code == QLatin1String("INF"))
+        return Infinity;
+    if (code == QLatin1String("PRK"))
+        return Parking;
+    if (code == QLatin1String("USR"))
+        return User;
+    return Unknown;
+}
+
+QString RecordingName::typeLabel(int type) {
+    static const char* const labels[] = {"", "I", "E", "P", "U"};
+    return (type >= Infinity && type <= User) ? QString::fromLatin1(labels[type]) : QString();
+}
+
+QString RecordingName::typeIconPath(const QString& label) {
+    const QString folder = QCoreApplication::applicationDirPath() + "/Resources/image/";
+    if (label == QLatin1String("I"))
+        return folder + "inf-icon.svg";
+    if (label == QLatin1String("E"))
+        return folder + "event-icon.svg";
+    if (label == QLatin1String("P"))
+        return folder + "parking-icon.svg";
+    if (label == QLatin1String("U"))
+        return folder + "icon-user.svg";
+    return folder;
+}
+
+bool RecordingName::isChannelFile(const QString& name) {
+    for (const char* suffix : kMp4ChannelSuffixes)
+        if (name.endsWith(QLatin1String(suffix)))
+            return true;
+    return false;
+}
+
+QString RecordingName::siblingChannelPath(const QString& path, int channel) {
+    if (channel < 0 || channel > 2)
+        return QString();
+    for (const auto* suffixes : {kMp4ChannelSuffixes, kAviChannelSuffixes}) {
+        for (int i = 0; i < 3; ++i) {
+            const QLatin1String suffix(suffixes[i]);
+            if (path.endsWith(suffix))
+                return path.left(path.size() - suffix.size()) + QLatin1String(suffixes[channel]);
+        }
+    }
+    return QString();
+}

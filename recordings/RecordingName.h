@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QString>
+
+// What the viewer knows about a recording from its file name alone:
+//   YYYYMMDD_HHMMSS_TYP_C.ext   (ext "mp4" or "avi"; AVI names may carry a second channel
+//   digit: YYYYMMDD_HHMMSS_TYP_C_D.avi)
+//
+// The expressions are deliberately loose and must stay so: they are not anchored, the dot
+// before the extension is a plain regular-expression dot, and the type field accepts any
+// mix of the letters of the four codes. Cards in the field carry names that only these
+// loose forms accept.
+class RecordingName {
+public:
+    enum Type { Unknown = 0, Infinity = 1, Event = 2, Parking = 3, User = 4 };
+
+    static const char* const kSingleChannelAvi;
+    static const char* const kSingleChannelMp4;
+    static const char* const kTwoDigitChannelAvi;
+    static const char* const kFrontOnlyMp4; // kept beside the others, applied nowhere
+
+    // Channel suffixes: index 0 is the front camera, 1 and 2 the rear cameras.
+    static const char* const kMp4ChannelSuffixes[3];
+    static const char* const kAviChannelSuffixes[3];
+
+    // Extension markers for code that must remember which kind the current recording is.
+    static constexpr const char* kAviMarker = "rAvi";
+    static constexpr const char* kMp4Marker = "rMp4";
+
+    // Whether a file (any path) may be listed as a recording.
+    static bool isSupportedName(const QString& path);
+
+    // The memory-card listing admits single-channel names only.
+    static bool isCardRecordingName(const QString& fileName);
+
+    // Type code 0-4 from the third "_" field; exact and case-sensitive.
+    static int typeFromName(const QString& fileName);
+
+    // The list's label letter for a type code ("I", "E", "P", "U"), empty for unknown.
+    static QString typeLabel(int type);
+
+    // Image folder followed by the icon file of a label letter; any other letter gives the
+    // image folder alone.
+    static QString typeIconPath(const QString& label);
+
+    // True for names ending in "_1.mp4", "_2.mp4" or "_3.mp4": one MP4 file per channel.
+    static bool isChannelFile(const QString& name);
+
+    // The path of the same recording's file for another channel (0-2), in the same folder.
+    // Empty when the path does not end in a channel suffix.
+    static QString siblingChannelPath(const QString& path, int channel);
+};

@@ -1,0 +1,122 @@
+// Which file names the viewer admits, and what it reads from them.
+#include "RecordingName.h"
+#include "RecordingRecord.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <algorithm>
+
+class TestRecordingName : public QObject {
+    Q_OBJECT
+
+private slots:
+    void nameCheck_data() {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<bool>("accepted");
+        QTest::newRow("avi") << "20230415_083012_INF_1.avi" << true;
+        QTest::newRow("mp4 rear") << "/cards/DCIM/20230415_083012_EVT_3.mp4" << true;
+        QTest::newRow("two-digit avi") << "20230415_083012_EVT_1_2.avi" << true;
+        QTest::newRow("two-digit mp4") << "20230415_083012_EVT_1_2.mp4" << false;
+        QTest::newRow("month 13") << "20231331_083012_INF_1.avi" << false;
+        QTest::newRow("31 February") << "20230231_083012_INF_1.avi" << true;
+        QTest::newRow("upper-case ext") << "20230415_083012_INF_1.AVI" << false;
+        QTest::newRow("upper-case mp4") << "20230415_083012_INF_1.MP4" << false;
+        QTest::newRow("prefix, unanchored") << "rec_20230415_083012_INF_1.avi" << true;
+        QTest::newRow("mixed type letters") << "20230415_083012_ENF_1.avi" << true;
+        QTest::newRow("channel 6") << "20230415_083012_INF_6.mp4" << false;
+        QTest::newRow("channel 5") << "20230415_083012_PRK_5.mp4" << true;
+        QTest::newRow("xmp4 ending") << "20230415_083012_INF_1xmp4" << false;
+        QTest::newRow("too few fields") << "20230415_083012_INF1.mp4" << false;
+        QTest::newRow("hour 24") << "20230415_243012_INF_1.mp4" << false;
+        QTest::newRow("year 21xx") << "21230415_083012_INF_1.mp4" << false;
+        QTest::newRow("lower type") << "20230415_083012_inf_1.mp4" << false;
+        QTest::newRow("folder with underscores") << "/a_b_c_d/notes.mp4" << false;
+        QTest::newRow("mkv") << "20230415_083012_INF_1.mkv" << false;
+    }
+    void nameCheck() {
+        QFETCH(QString, path);
+        QFETCH(bool, accepted);
+        QCOMPARE(RecordingName::isSupportedName(path), accepted);
+    }
+
+    void cardListingAdmitsSingleChannelNamesOnly() {
+        QVERIFY(RecordingName::isCardRecordingName("20230415_083012_INF_1.avi"));
+        QVERIFY(RecordingName::isCardRecordingName("20230415_083012_USR_2.mp4"));
+        QVERIFY(!RecordingName::isCardRecordingName("20230415_083012_EVT_1_2.avi"));
+        QVERIFY(!RecordingName::isCardRecordingName("20230415_083012_EVT_1.jpg"));
+    }
+
+    void frontOnlyExpressionStaysDefined() {
+        QVERIFY(QString(RecordingName::kFrontOnlyMp4).endsWith("_[1].mp4"));
+    }
+
+    void typesLabelsAndIcons() {
+        QCOMPARE(RecordingName::typeFromName("20230415_083012_INF_1.avi"), 1);
+        QCOMPARE(RecordingName::typeFromName("20230415_083012_EVT_1.mp4"), 2);
+        QCOMPARE(RecordingName::typeFromName("20230415_083012_PRK_2.mp4"), 3);
+        QCOMPARE(RecordingName::typeFromName("20230415_083012_USR_1.mp4"), 4);
+        QCOMPARE(RecordingName::typeFromName("20230415_083012_ENF_1.avi"), 0);
+        QCOMPARE(RecordingName::typeFromName("20230415_083012_evt_1.mp4"), 0);
+        // The third field counts even when a prefix shifts the date.
+        QCOMPARE(RecordingName::typeFromName("rec_20230415_083012_INF_1.avi"), 0);
+        QCOMPARE(RecordingName::typeFromName("nothing"), 0);
+
+        QCOMPARE(RecordingName::typeLabel(2), QString("E"));
+        QVERIFY(RecordingName::typeLabel(0).isEmpty());
+        const QString images = QCoreApplication::applicationDirPath() + "/Resources/image/";
+        QCOMPARE(RecordingName::typeIconPath("I"), images + "inf-icon.svg");
+        QCOMPARE(RecordingName::typeIconPath("E"), images + "event-icon.svg");
+        QCOMPARE(RecordingName::typeIconPath("P"), images + "parking-icon.svg");
+        QCOMPARE(RecordingName::typeIconPath("U"), images + "icon-user.svg");
+        QCOMPARE(RecordingName::typeIconPath("X"), images);
+    }
+
+    void channelFilesAndSiblings() {
+        QVERIFY(RecordingName::isChannelFile("20230415_083012_INF_2.mp4"));
+        QVERIFY(!RecordingName::isChannelFile("20230415_083012_INF_4.mp4"));
+        QVERIFY(!RecordingName::isChannelFile("20230415_083012_INF_1.avi"));
+        QVERIFY(!RecordingName::isChannelFile("20230415_083012_INF_1.MP4"));
+        QCOMPARE(RecordingName::siblingChannelPath("/d/20230415_083012_INF_1.mp4", 2),
+                 QString("/d/20230415_083012_INF_3.mp4"));
+        QCOMPARE(RecordingName::siblingChannelPath("/d/20230415_083012_INF_3.avi", 0),
+                 QString("/d/20230415_083012_INF_1.avi"));
+        QVERIFY(RecordingName::siblingChannelPath("/d/clip.mp4", 1).isEmpty());
+        QVERIFY(RecordingName::siblingChannelPath("/d/20230415_083012_INF_1.mp4", 3).isEmpty());
+    }
+
+    void recordsSortChronologicallyByName() {
+        QTemporaryDir dir;
+        const QString path = dir.filePath("20230415_083012_PRK_1.mp4");
+        {
+            QFile file(path);
+            QVERIFY(file.open(QIODevice::WriteOnly));
+            file.write(QByteArray(1234, '\0'));
+        }
+        const RecordingRecord record = RecordingRecord::fromPath(path, 7);
+        QCOMPARE(record.row, 7);
+        QCOMPARE(record.fileName, QString("20230415_083012_PRK_1.mp4"));
+        QCOMPARE(record.filePath, path);
+        QCOMPARE(record.fileSize, qint64(1234));
+        QCOMPARE(record.suffixes[0], QString("mp4"));
+        QCOMPARE(record.suffixCount, 1);
+        QCOMPARE(record.type, int(RecordingName::Parking));
+        QVERIFY(record.durationText.isEmpty());
+
+        std::vector<RecordingRecord> records;
+        for (const char* name : {"20230415_090000_INF_1.mp4", "20230415_083012_INF_2.mp4",
+                                 "20221231_235959_USR_1.avi", "20230415_083012_EVT_1.mp4"})
+            records.push_back(RecordingRecord::fromPath(QString("/x/") + name, 0));
+        std::sort(records.begin(), records.end());
+        QStringList order;
+        for (const auto& r : records)
+            order << r.fileName;
+        QCOMPARE(order, QStringList({"20221231_235959_USR_1.avi", "20230415_083012_EVT_1.mp4",
+                                     "20230415_083012_INF_2.mp4", "20230415_090000_INF_1.mp4"}));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestRecordingName)
+#include "test_recordingname.moc"

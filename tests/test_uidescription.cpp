@@ -1,0 +1,192 @@
+// Views built from description files: what the reader makes of each key, and what applying
+// a record does to a real widget.
+#include "UiApplier.h"
+#include "UiDescription.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QLabel>
+#include <QPushButton>
+#include <QTranslator>
+#include <QtTest>
+
+class TestUiDescription : public QObject {
+    Q_OBJECT
+
+    QString m_view;
+    QString m_file;
+
+    void writeView(const QByteArray& json) {
+        // The JSON texts below use single quotes to stay readable.
+        QFile file(m_file);
+        QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+        file.write(QByteArray(json).replace('\'', '"'));
+    }
+
+private slots:
+    void initTestCase() {
+        // Test views live beside the real ones under a name no view uses.
+        m_view = QStringLiteral("TestView%1").arg(QCoreApplication::applicationPid());
+        m_file = UiDescription().jsonFolder() + m_view + ".json";
+    }
+    void cleanupTestCase() { QFile::remove(m_file); }
+
+    void missingOrBrokenFileHidesEveryChild() {
+        UiDescription ui;
+        QVERIFY(!ui.open("NoSuchView"));
+        QCOMPARE(ui.item("centralWidget").status, -1);
+
+        writeView("{ \"a\": { \"show\": true, ");
+        QVERIFY(!ui.open(m_view));
+        QCOMPARE(ui.item("a").status, -1);
+
+        writeView("[1, 2, 3]");
+        QVERIFY(!ui.open(m_view));
+
+        QWidget widget;
+        widget.show();
+        QVERIFY(!UiApplier::apply(&widget, "a", ui.item("a"), QString()));
+        QVERIFY(widget.isHidden());
+        QVERIFY(!widget.isEnabled());
+    }
+
+    void absentKeysKeepTheirDefaults() {
+        writeView("{'bare': {}, 'wrongTypes': {'position': {'x': '10'}, 'show': 1, 'size': [1]}}");
+        UiDescription ui;
+        QVERIFY(ui.open(m_view));
+        for (const char* name : {"bare", "wrongTypes"}) {
+            const UiItem item = ui.item(name);
+            QCOMPARE(item.status, 0);
+            QCOMPARE(item.show, false);
+            QCOMPARE(item.enable, false);
+            QCOMPARE(item.x, 0);
+            QVERIFY(!item.size.isValid());
+            QVERIFY(!item.maximum.isValid());
+            QCOMPARE(item.scaleX, 0);
+            QCOMPARE(item.scaleHeight, 3);
+            QCOMPARE(item.textColor[UiItem::Hover], QString("#000000"));
+            QVERIFY(item.color[UiItem::Default].isEmpty());
+            QCOMPARE(item.image[UiItem::Disable], QString("none"));
+            QCOMPARE(item.border[UiItem::Default], QString("none"));
+        }
+        QCOMPARE(ui.item("missing").status, -1);
+    }
+
+    void everyKeyIsRead() {
+        writeView("{"
+"            'panel': {"
+"                'position': {'x': 12, 'y': 34},"
+"                'size': {'width': 200, 'height': 100},"
+"                'minimum': {'width': 50, 'height': 40},"
+"                'maximum': {'width': -1, 'height': -1},"
+"                'margin': {'left': 1, 'top': 2, 'right': 3, 'bottom': 4},"
+"                'scale': {'x': 'Movable', 'y': 'Minimum', 'width': 'Stretch', 'height': 'Fixed'},"
+"                'font': {'family': 'Noto Sans', 'weight': 'Bold', 'size': 13},"
+"                'color': {'Default': '#101010', 'Hover': '#202020'},"
+"                'textColor': {'Select': '#ffffff'},"
+"                'image': {'Default': 'panel.svg'},"
+"                'border': {'Disable': '#333333'},"
+"                'show': true, 'enable': true, 'text': 'Open folder'"
+"            },"
+"            'oddWeight': {'font': {'weight': 'Heavy', 'size': 0}},"
+"            'halfMaximum': {'maximum': {'width': -1}}"
+"        }");
+        UiDescription ui;
+        QVERIFY(ui.open(m_view));
+        const UiItem item = ui.item("panel");
+        QCOMPARE(item.x, 12);
+        QCOMPARE(item.y, 34);
+        QCOMPARE(item.size, QSize(200, 100));
+        QCOMPARE(item.minimum, QSize(50, 40));
+        QCOMPARE(item.maximum, QSize(7680, 4320));
+        QCOMPARE(item.marginLeft + item.marginTop * 10 + item.marginRight * 100 + item.marginBottom * 1000, 4321);
+        QCOMPARE(item.scaleX, 4);
+        QCOMPARE(item.scaleY, 1);
+        QCOMPARE(item.scaleWidth, -1);
+        QCOMPARE(item.scaleHeight, 0);
+        QCOMPARE(item.font.family(), QString("Noto Sans"));
+        QCOMPARE(item.font.weight(), 75);
+        QCOMPARE(item.font.pixelSize(), 13);
+        QCOMPARE(item.color[UiItem::Default], QString("#101010"));
+        QCOMPARE(item.color[UiItem::Hover], QString("#202020"));
+        QVERIFY(item.color[UiItem::Select].isEmpty());
+        QCOMPARE(item.textColor[UiItem::Select], QString("#ffffff"));
+        QCOMPARE(item.textColor[UiItem::Default], QString("#000000"));
+        QCOMPARE(item.image[UiItem::Default], QString("panel.svg"));
+        QCOMPARE(item.border[UiItem::Disable], QString("#333333"));
+        QVERIFY(item.show && item.enable);
+        QCOMPARE(item.text, QString("Open folder"));
+
+        const UiItem odd = ui.item("oddWeight");
+        QCOMPARE(odd.font.weight(), QFont().weight());
+        QCOMPARE(odd.font.pixelSize(), QFont().pixelSize());
+        QCOMPARE(ui.item("halfMaximum").maximum, QSize(7680, -1));
+    }
+
+    void applyingPlacesShowsAndStyles() {
+        writeView("{"
+"            'shown': {'position': {'x': 5, 'y': 6}, 'size': {'width': 70, 'height': 30},"
+"                      'margin': {'left': 2, 'top': 2, 'right': 2, 'bottom': 2},"
+"                      'image': {'Default': 'a.svg', 'Hover': 'b.svg'},"
+"                      'color': {'Default': '#123456'}, 'show': true, 'enable': true},"
+"            'disabledButShown': {'show': true, 'enable': false},"
+"            'enabledButHidden': {'show': false, 'enable': true}"
+"        }");
+        UiDescription ui;
+        QVERIFY(ui.open(m_view));
+        QWidget parent;
+        parent.resize(300, 200);
+        auto* shown = new QPushButton(&parent);
+        auto* disabled = new QWidget(&parent);
+        auto* hidden = new QWidget(&parent);
+        parent.show();
+
+        const UiItem item = ui.item("shown");
+        QVERIFY(UiApplier::apply(shown, "shown", item, UiApplier::buttonStyleSheet(item, ui.imageFolder())));
+        QCOMPARE(shown->objectName(), QString("shown"));
+        QCOMPARE(shown->geometry(), QRect(5, 6, 70, 30));
+        QCOMPARE(shown->contentsMargins(), QMargins(2, 2, 2, 2));
+        QVERIFY(shown->isVisible());
+        const QString style = shown->styleSheet();
+        QVERIFY2(style.contains("QPushButton{border: none; border-image: url(\"" + ui.imageFolder() + "a.svg\")"),
+                 qPrintable(style));
+        QVERIFY(style.contains("QPushButton:hover{border-image: url(\"" + ui.imageFolder() + "b.svg\")"));
+        QVERIFY(style.contains("background: #123456"));
+
+        QVERIFY(!UiApplier::apply(disabled, "disabledButShown", ui.item("disabledButShown"), QString()));
+        QVERIFY(disabled->isHidden());
+        QVERIFY(!disabled->isEnabled());
+
+        QVERIFY(UiApplier::apply(hidden, "enabledButHidden", ui.item("enabledButHidden"), QString()));
+        QVERIFY(hidden->isHidden());
+        QVERIFY(hidden->isEnabled());
+    }
+
+    void panelStyleFollowsTheModelForm() {
+        UiItem item;
+        item.image[UiItem::Default] = "left.svg";
+        item.color[UiItem::Default] = "#000000";
+        QCOMPARE(UiApplier::panelStyleSheet(item, "/img/"),
+                 QString("QWidget{border: none; border-image: url(\"/img/left.svg\") 0 0 0 0 full "
+                         "full; background: #000000;}"));
+    }
+
+    void textsPassThroughTheViewsTranslation() {
+        QCOMPARE(UiDescription::translationContext("MainWindow"), QByteArray("ui_mainWindow"));
+        QCOMPARE(UiDescription::translationContext("updateView"), QByteArray("ui_updateView"));
+
+        // The real Korean translation of the agreement dialog, as built into Resources.
+        QTranslator korean;
+        QVERIFY(korean.load(QCoreApplication::applicationDirPath() + "/Resources/translation/trans_ko.qm"));
+        UiDescription ui;
+        QVERIFY(ui.open("AgreementView"));
+        QCOMPARE(ui.translatedText("bAgree"), QString("Agree"));
+        QCoreApplication::installTranslator(&korean);
+        QCOMPARE(ui.translatedText("bAgree"), QString::fromUtf8("동의"));
+        QCoreApplication::removeTranslator(&korean);
+        QVERIFY(ui.translatedText("noSuchChild").isEmpty());
+    }
+};
+
+QTEST_MAIN(TestUiDescription)
+#include "test_uidescription.moc"
