@@ -7,9 +7,9 @@
 
 #include <QCheckBox>
 #include <QGuiApplication>
-#include <QScreen>
 #include <QLabel>
 #include <QPushButton>
+#include <QScreen>
 #include <QSettings>
 
 AgreementView::AgreementView(QWidget* parent)
@@ -23,7 +23,8 @@ AgreementView::AgreementView(QWidget* parent)
     const QString images = ui.imageFolder();
 
     const UiItem central = ui.item("centralWidget");
-    UiApplier::apply(m_central, "centralWidget", central, UiApplier::panelStyleSheet(central, images));
+    UiApplier::apply(m_central, "centralWidget", central,
+                     UiApplier::panelStyleSheet(central, images));
     if (central.size.isValid())
         setFixedSize(central.size);
     // Asked before the main window exists: centre on the screen, not on a hidden parent.
@@ -35,7 +36,8 @@ AgreementView::AgreementView(QWidget* parent)
     }
     m_context->setWordWrap(true);
     m_context->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    for (auto [box, name] : {std::pair{m_updateChecks, "chkUpdate"}, std::pair{m_crashReports, "chkReport"}}) {
+    for (auto [box, name] :
+         {std::pair{m_updateChecks, "chkUpdate"}, std::pair{m_crashReports, "chkReport"}}) {
         const UiItem item = ui.item(name);
         // The indicator is drawn from the description too: an outlined box, and the
         // entry's Select image when checked.

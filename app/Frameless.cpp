@@ -107,8 +107,7 @@ bool Frameless::eventFilter(QObject* watched, QEvent* event) {
         auto* mouse = static_cast<QMouseEvent*>(event);
         if (m_edges != None) {
             m_rubberBand->setGeometry(resizedGeometry(m_startGeometry, m_edges, m_pressGlobal,
-                                                      mouse->globalPos(),
-                                                      m_window->minimumSize()));
+                                                      mouse->globalPos(), m_window->minimumSize()));
             return true;
         }
         if (m_moving) {
@@ -119,7 +118,8 @@ bool Frameless::eventFilter(QObject* watched, QEvent* event) {
                 m_window->showNormal();
                 m_startGeometry = m_window->geometry();
                 m_startGeometry.moveTopLeft(
-                    mouse->globalPos() - QPoint(int(ratio * m_startGeometry.width()), mouse->pos().y()));
+                    mouse->globalPos() -
+                    QPoint(int(ratio * m_startGeometry.width()), mouse->pos().y()));
                 m_pressGlobal = mouse->globalPos();
             }
             m_window->move(m_startGeometry.topLeft() + mouse->globalPos() - m_pressGlobal);

@@ -149,8 +149,10 @@ private slots:
         QCOMPARE(second.exitCode(), 0);
         const QStringList all = logMessages();
         QCOMPARE(all.mid(0, afterCrash.size()), afterCrash);
-        QCOMPARE(all.at(afterCrash.size()), QString(":: [l] --------------------------------------------------"));
-        QCOMPARE(all.last(), QString(":: [i] User disagree to use privacy information for program"));
+        QCOMPARE(all.at(afterCrash.size()),
+                 QString(":: [l] --------------------------------------------------"));
+        QCOMPARE(all.last(),
+                 QString(":: [i] User disagree to use privacy information for program"));
     }
 };
 

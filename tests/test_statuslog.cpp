@@ -32,14 +32,16 @@ private slots:
 
     void linesCarryTimeLevelAndMessage() {
         // 1,700,000,000,005 ms: five milliseconds into a second.
-        const std::string line =
-            StatusLogWriter::formatLine(StatusLogWriter::Info, "[Main]: Program is run.", 1700000000005LL);
-        QVERIFY2(QRegularExpression("^\\d\\d:\\d\\d:\\d\\d\\.005:: \\[i\\] \\[Main\\]: Program is run\\.\\n$")
+        const std::string line = StatusLogWriter::formatLine(
+            StatusLogWriter::Info, "[Main]: Program is run.", 1700000000005LL);
+        QVERIFY2(QRegularExpression(
+                     "^\\d\\d:\\d\\d:\\d\\d\\.005:: \\[i\\] \\[Main\\]: Program is run\\.\\n$")
                      .match(QString::fromStdString(line))
                      .hasMatch(),
                  line.c_str());
-        QCOMPARE(StatusLogWriter::formatLine(StatusLogWriter::Error, "m", 1700000000042LL).substr(8),
-                 std::string(".042:: [e] m\n"));
+        QCOMPARE(
+            StatusLogWriter::formatLine(StatusLogWriter::Error, "m", 1700000000042LL).substr(8),
+            std::string(".042:: [e] m\n"));
     }
 
     void everyWriterAppendsItsMarker() {
@@ -116,7 +118,8 @@ private slots:
 
         const QList<QByteArray> lines = logContents().split('\n');
         QCOMPARE(lines.size(), threads * perThread + 1);
-        const QRegularExpression form("^\\d\\d:\\d\\d:\\d\\d\\.\\d{3}:: \\[d\\] T(\\d) #\\d{4} ([a-h])\\2{899}$");
+        const QRegularExpression form(
+            "^\\d\\d:\\d\\d:\\d\\d\\.\\d{3}:: \\[d\\] T(\\d) #\\d{4} ([a-h])\\2{899}$");
         std::vector<int> counts(threads, 0);
         for (int i = 0; i < lines.size() - 1; ++i) {
             const auto match = form.match(QString::fromLatin1(lines[i]));

@@ -74,23 +74,24 @@ private slots:
 
     void everyKeyIsRead() {
         writeView("{"
-"            'panel': {"
-"                'position': {'x': 12, 'y': 34},"
-"                'size': {'width': 200, 'height': 100},"
-"                'minimum': {'width': 50, 'height': 40},"
-"                'maximum': {'width': -1, 'height': -1},"
-"                'margin': {'left': 1, 'top': 2, 'right': 3, 'bottom': 4},"
-"                'scale': {'x': 'Movable', 'y': 'Minimum', 'width': 'Stretch', 'height': 'Fixed'},"
-"                'font': {'family': 'Noto Sans', 'weight': 'Bold', 'size': 13},"
-"                'color': {'Default': '#101010', 'Hover': '#202020'},"
-"                'textColor': {'Select': '#ffffff'},"
-"                'image': {'Default': 'panel.svg'},"
-"                'border': {'Disable': '#333333'},"
-"                'show': true, 'enable': true, 'text': 'Open folder'"
-"            },"
-"            'oddWeight': {'font': {'weight': 'Heavy', 'size': 0}},"
-"            'halfMaximum': {'maximum': {'width': -1}}"
-"        }");
+                  "            'panel': {"
+                  "                'position': {'x': 12, 'y': 34},"
+                  "                'size': {'width': 200, 'height': 100},"
+                  "                'minimum': {'width': 50, 'height': 40},"
+                  "                'maximum': {'width': -1, 'height': -1},"
+                  "                'margin': {'left': 1, 'top': 2, 'right': 3, 'bottom': 4},"
+                  "                'scale': {'x': 'Movable', 'y': 'Minimum', 'width': 'Stretch', "
+                  "'height': 'Fixed'},"
+                  "                'font': {'family': 'Noto Sans', 'weight': 'Bold', 'size': 13},"
+                  "                'color': {'Default': '#101010', 'Hover': '#202020'},"
+                  "                'textColor': {'Select': '#ffffff'},"
+                  "                'image': {'Default': 'panel.svg'},"
+                  "                'border': {'Disable': '#333333'},"
+                  "                'show': true, 'enable': true, 'text': 'Open folder'"
+                  "            },"
+                  "            'oddWeight': {'font': {'weight': 'Heavy', 'size': 0}},"
+                  "            'halfMaximum': {'maximum': {'width': -1}}"
+                  "        }");
         UiDescription ui;
         QVERIFY(ui.open(m_view));
         const UiItem item = ui.item("panel");
@@ -99,7 +100,9 @@ private slots:
         QCOMPARE(item.size, QSize(200, 100));
         QCOMPARE(item.minimum, QSize(50, 40));
         QCOMPARE(item.maximum, QSize(7680, 4320));
-        QCOMPARE(item.marginLeft + item.marginTop * 10 + item.marginRight * 100 + item.marginBottom * 1000, 4321);
+        QCOMPARE(item.marginLeft + item.marginTop * 10 + item.marginRight * 100 +
+                     item.marginBottom * 1000,
+                 4321);
         QCOMPARE(item.scaleX, 4);
         QCOMPARE(item.scaleY, 1);
         QCOMPARE(item.scaleWidth, -1);
@@ -124,14 +127,16 @@ private slots:
     }
 
     void applyingPlacesShowsAndStyles() {
-        writeView("{"
-"            'shown': {'position': {'x': 5, 'y': 6}, 'size': {'width': 70, 'height': 30},"
-"                      'margin': {'left': 2, 'top': 2, 'right': 2, 'bottom': 2},"
-"                      'image': {'Default': 'a.svg', 'Hover': 'b.svg'},"
-"                      'color': {'Default': '#123456'}, 'show': true, 'enable': true},"
-"            'disabledButShown': {'show': true, 'enable': false},"
-"            'enabledButHidden': {'show': false, 'enable': true}"
-"        }");
+        writeView(
+            "{"
+            "            'shown': {'position': {'x': 5, 'y': 6}, 'size': {'width': 70, 'height': "
+            "30},"
+            "                      'margin': {'left': 2, 'top': 2, 'right': 2, 'bottom': 2},"
+            "                      'image': {'Default': 'a.svg', 'Hover': 'b.svg'},"
+            "                      'color': {'Default': '#123456'}, 'show': true, 'enable': true},"
+            "            'disabledButShown': {'show': true, 'enable': false},"
+            "            'enabledButHidden': {'show': false, 'enable': true}"
+            "        }");
         UiDescription ui;
         QVERIFY(ui.open(m_view));
         QWidget parent;
@@ -142,22 +147,27 @@ private slots:
         parent.show();
 
         const UiItem item = ui.item("shown");
-        QVERIFY(UiApplier::apply(shown, "shown", item, UiApplier::buttonStyleSheet(item, ui.imageFolder())));
+        QVERIFY(UiApplier::apply(shown, "shown", item,
+                                 UiApplier::buttonStyleSheet(item, ui.imageFolder())));
         QCOMPARE(shown->objectName(), QString("shown"));
         QCOMPARE(shown->geometry(), QRect(5, 6, 70, 30));
         QCOMPARE(shown->contentsMargins(), QMargins(2, 2, 2, 2));
         QVERIFY(shown->isVisible());
         const QString style = shown->styleSheet();
-        QVERIFY2(style.contains("QPushButton{border: none; border-image: url(\"" + ui.imageFolder() + "a.svg\")"),
+        QVERIFY2(style.contains("QPushButton{border: none; border-image: url(\"" +
+                                ui.imageFolder() + "a.svg\")"),
                  qPrintable(style));
-        QVERIFY(style.contains("QPushButton:hover{border-image: url(\"" + ui.imageFolder() + "b.svg\")"));
+        QVERIFY(style.contains("QPushButton:hover{border-image: url(\"" + ui.imageFolder() +
+                               "b.svg\")"));
         QVERIFY(style.contains("background: #123456"));
 
-        QVERIFY(!UiApplier::apply(disabled, "disabledButShown", ui.item("disabledButShown"), QString()));
+        QVERIFY(!UiApplier::apply(disabled, "disabledButShown", ui.item("disabledButShown"),
+                                  QString()));
         QVERIFY(disabled->isHidden());
         QVERIFY(!disabled->isEnabled());
 
-        QVERIFY(UiApplier::apply(hidden, "enabledButHidden", ui.item("enabledButHidden"), QString()));
+        QVERIFY(
+            UiApplier::apply(hidden, "enabledButHidden", ui.item("enabledButHidden"), QString()));
         QVERIFY(hidden->isHidden());
         QVERIFY(hidden->isEnabled());
     }
@@ -177,7 +187,8 @@ private slots:
 
         // The real Korean translation of the agreement dialog, as built into Resources.
         QTranslator korean;
-        QVERIFY(korean.load(QCoreApplication::applicationDirPath() + "/Resources/translation/trans_ko.qm"));
+        QVERIFY(korean.load(QCoreApplication::applicationDirPath() +
+                            "/Resources/translation/trans_ko.qm"));
         UiDescription ui;
         QVERIFY(ui.open("AgreementView"));
         QCOMPARE(ui.translatedText("bAgree"), QString("Agree"));

@@ -72,9 +72,8 @@ QString UiApplier::panelStyleSheet(const UiItem& item, const QString& imageFolde
                               ? imageUrl(imageFolder, item.image[UiItem::Default]) +
                                     QStringLiteral(" 0 0 0 0 full full")
                               : QStringLiteral("none");
-    const QString background =
-        item.color[UiItem::Default].isEmpty() ? QStringLiteral("transparent")
-                                              : item.color[UiItem::Default];
+    const QString background = item.color[UiItem::Default].isEmpty() ? QStringLiteral("transparent")
+                                                                     : item.color[UiItem::Default];
     return QStringLiteral("%1{border: none; border-image: %2; background: %3;}")
         .arg(selector, image, background);
 }

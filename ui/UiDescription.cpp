@@ -63,8 +63,8 @@ UiDescription::UiDescription()
     : m_jsonFolder(QCoreApplication::applicationDirPath() + "/Resources/json/"),
       m_imageFolder(QCoreApplication::applicationDirPath() + "/Resources/image/"),
       m_scaleRules{"Fixed", "Minimum", "Maximum", "Expanding", "Movable"},
-      m_weightNames{"Thin", "ExtraLight", "Light",    "Normal", "Medium",
-                    "DemiBold", "Bold",   "ExtraBold", "Black"},
+      m_weightNames{"Thin",     "ExtraLight", "Light",     "Normal", "Medium",
+                    "DemiBold", "Bold",       "ExtraBold", "Black"},
       m_weightValues{0, 12, 25, 50, 57, 63, 75, 81, 87} {
     m_document.SetObject();
 }
