@@ -1,5 +1,7 @@
 #include "RecordingName.h"
 
+#include "KDXData.h"
+
 #include <QCoreApplication>
 #include <QFileInfo>
 #include <QRegularExpression>
@@ -110,4 +112,18 @@ QString RecordingName::siblingChannelPath(const QString& path, int channel) {
         }
     }
     return QString();
+}
+
+QString RecordingName::durationText(const QString& path) {
+    alignas(8) unsigned char info[KDXData::kInfoSize];
+    KDXData reader(info);
+    const int opened = reader.KDX_Open(path);
+    // 2: the file opened but its header gave no information, so there is no length to show.
+    if (opened < 0 || opened == 2)
+        return QString();
+    const int seconds = qMax(0, reader.KDX_GetTotalRange() / 1000);
+    reader.KDX_Close();
+    return QStringLiteral("%1:%2")
+        .arg(seconds / 60, 2, 10, QLatin1Char('0'))
+        .arg(seconds % 60, 2, 10, QLatin1Char('0'));
 }

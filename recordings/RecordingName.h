@@ -46,6 +46,10 @@ public:
     // True for names ending in "_1.mp4", "_2.mp4" or "_3.mp4": one MP4 file per channel.
     static bool isChannelFile(const QString& name);
 
+    // The recording's length as MM:SS (three minute digits from 100 minutes on), read from
+    // the file's header; empty when the file cannot be read.
+    static QString durationText(const QString& path);
+
     // The path of the same recording's file for another channel (0-2), in the same folder.
     // Empty when the path does not end in a channel suffix.
     static QString siblingChannelPath(const QString& path, int channel);

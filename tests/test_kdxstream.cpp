@@ -1,0 +1,335 @@
+// The stream library through its C interface, on recordings made by tools/make_recordings.py:
+// where the records put each value, what the recordings hold, and what bad files give.
+#include "kdxstream.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <cstring>
+#include <unistd.h>
+#include <vector>
+
+namespace {
+
+const QString media = QStringLiteral(TELEMETRY_MEDIA);
+
+std::uint32_t wordAt(const void* record, int offset) {
+    std::uint32_t word;
+    std::memcpy(&word, static_cast<const unsigned char*>(record) + offset, sizeof word);
+    return word;
+}
+
+float floatAt(const void* record, int offset) {
+    float value;
+    std::memcpy(&value, static_cast<const unsigned char*>(record) + offset, sizeof value);
+    return value;
+}
+
+std::vector<std::string> traceLines;
+void collectTrace(const char* line) {
+    traceLines.emplace_back(line);
+}
+
+// An opened recording, closed when it goes out of scope.
+struct Opened {
+    KDXReader* reader = nullptr;
+    int result;
+    explicit Opened(const QString& name) {
+        const QByteArray path = QFile::encodeName(media + "/" + name);
+        KDXOpenParams params{};
+        params.path8 = path.constData();
+        result = KDXReaderOpen(&reader, &params);
+    }
+    ~Opened() { KDXReaderClose(reader); }
+};
+
+struct Frame {
+    KDXFrameDescriptor descriptor{};
+    KDXTextFrame text{};
+    Frame() {
+        descriptor.buffer = &text;
+        descriptor.bufferSize = sizeof text;
+        descriptor.track = KDX_TELEMETRY_TRACK;
+        descriptor.kind = KDX_FRAME_TEXT;
+    }
+};
+
+std::vector<KDXTextFrame> readAll(KDXReader* reader, int* endResult = nullptr) {
+    std::vector<KDXTextFrame> frames;
+    for (;;) {
+        Frame frame;
+        const int result = KDXReaderReadFrame(reader, &frame.descriptor);
+        if (result != KDX_OK) {
+            if (endResult != nullptr)
+                *endResult = result;
+            return frames;
+        }
+        frames.push_back(frame.text);
+    }
+}
+
+} // namespace
+
+class TestKdxStream : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase() {
+        QVERIFY2(QFile::exists(media + "/20240101_120000_INF_1.mp4"), qPrintable(media));
+        KDX_SetTraceSink(&collectTrace);
+    }
+    void init() { traceLines.clear(); }
+
+    void informationRecordByOffset() {
+        Opened file("20240101_120000_INF_1.mp4");
+        QCOMPARE(file.result, KDX_OK);
+        // Every byte is set by the library, whatever the buffer held.
+        std::vector<unsigned char> info(KDX_INFO_SIZE, 0xAB);
+        QCOMPARE(KDXReaderGetInfo(file.reader, reinterpret_cast<KDXInfo*>(info.data())), KDX_OK);
+        QCOMPARE(wordAt(info.data(), 4), 4000u);      // total range, ms
+        QCOMPARE(wordAt(info.data(), 16), 1u);        // video channels
+        QVERIFY(wordAt(info.data(), 20) != 0);        // text data present
+        QCOMPARE(wordAt(info.data(), 6376), 128u);    // track 0: frame buffer size
+        QCOMPARE(wordAt(info.data(), 6388), 40u);     // track 0: frame count
+        QCOMPARE(wordAt(info.data(), 6376 + 36), 0u); // track 1: unused
+        QCOMPARE(wordAt(info.data(), 6388 + 36 * 4), 0u);
+        QCOMPARE(info[KDX_INFO_SIZE - 1], static_cast<unsigned char>(0));
+    }
+
+    void frameDescriptorAndFrameByOffset() {
+        Opened file("20240101_120000_INF_1.mp4");
+        QCOMPARE(file.result, KDX_OK);
+        // Raw bytes, as a caller that predates the header would lay them out.
+        unsigned char descriptor[KDX_FRAME_DESCRIPTOR_SIZE];
+        std::memset(descriptor, 0, sizeof descriptor);
+        std::vector<unsigned char> buffer(200, 0xCD);
+        void* bufferPointer = buffer.data();
+        const std::uint32_t size = 200, track = 0, kind = 3;
+        std::memcpy(descriptor + 0, &bufferPointer, sizeof bufferPointer);
+        std::memcpy(descriptor + 12, &size, 4);
+        std::memcpy(descriptor + 36, &track, 4);
+        std::memcpy(descriptor + 40, &kind, 4);
+        auto* raw = reinterpret_cast<KDXFrameDescriptor*>(descriptor);
+        for (int i = 0; i <= 12; ++i)
+            QCOMPARE(KDXReaderReadFrame(file.reader, raw), KDX_OK);
+        // Sample 12 of the test pattern: the hard-braking spike.
+        QCOMPARE(floatAt(buffer.data(), 40), -1.25f);
+        QCOMPARE(floatAt(buffer.data(), 44), -0.24f);
+        QCOMPARE(floatAt(buffer.data(), 48), 1.012f);
+        QCOMPARE(wordAt(buffer.data(), 52), 2u | (3u << 2));
+        QCOMPARE(floatAt(buffer.data(), 56), 18.0f);
+        QVERIFY(qAbs(floatAt(buffer.data(), 60) - 37.4865f) < 1e-5f);
+        QVERIFY(qAbs(floatAt(buffer.data(), 64) - 127.1186f) < 1e-5f);
+        QCOMPARE(buffer[128], static_cast<unsigned char>(0xCD)); // nothing past the frame
+        QCOMPARE(wordAt(descriptor, 8), 128u);                   // bytes written
+        QCOMPARE(wordAt(descriptor, 36), 0u);
+        QCOMPARE(wordAt(descriptor, 40), 3u);
+        QCOMPARE(raw->timeMs, qint64(1200));
+        QCOMPARE(raw->sequence, 13u);
+    }
+
+    void readingsMatchWhatTheToolWrote() {
+        Opened file("20240101_120000_INF_1.mp4");
+        QCOMPARE(file.result, KDX_OK);
+        int end = 0;
+        const std::vector<KDXTextFrame> frames = readAll(file.reader, &end);
+        QCOMPARE(end, KDX_ERR_END);
+        QCOMPARE(int(frames.size()), 40);
+        for (int i = 0; i < 40; ++i) {
+            QCOMPARE(frames[i].timeMs, qint64(i * 100));
+            QCOMPARE(frames[i].durationMs, 100u);
+        }
+
+        const KDXTextFrame& first = frames[0];
+        QCOMPARE(first.gSensorX, 0.0f);
+        QCOMPARE(first.gSensorZ, 1.0f);
+        QVERIFY(qAbs(first.latitude - 37.4853f) < 1e-5f);
+        QVERIFY(qAbs(first.longitude - 127.1162f) < 1e-5f);
+        QCOMPARE(first.speed, 0.0f);
+        QCOMPARE(first.fields, KDX_FIELD_GSENSOR | KDX_FIELD_POSITION | KDX_FIELD_SPEED);
+
+        // 20-24: in a tunnel, no fix.
+        for (int i = 20; i <= 24; ++i) {
+            QCOMPARE(frames[i].latitude, 0.0f);
+            QCOMPARE(frames[i].longitude, 0.0f);
+            QCOMPARE(frames[i].gpsFlags, 0u);
+            QCOMPARE(frames[i].fields, KDX_FIELD_GSENSOR);
+            QCOMPARE(frames[i].gSensorY, -0.02f * i);
+        }
+        QVERIFY(frames[19].latitude != 0.0f && frames[25].latitude != 0.0f);
+
+        // 30: a weak 2-D fix.
+        QCOMPARE(frames[30].gpsFlags, 1u | (1u << 2));
+        QCOMPARE(frames[30].speed, 45.0f);
+        QVERIFY(qAbs(frames[30].latitude - 37.4883f) < 1e-5f);
+        QVERIFY(qAbs(frames[30].longitude - 127.1222f) < 1e-5f);
+        QCOMPARE(frames[39].gSensorX, 0.39f);
+        QCOMPARE(frames[39].timeMs, qint64(3900));
+    }
+
+    void recordingKinds_data() {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<int>("rangeMs");
+        QTest::addColumn<int>("videos");
+        QTest::addColumn<int>("audios");
+        QTest::addColumn<int>("samples");
+        QTest::newRow("all cameras in one file")
+            << "20240101_120100_EVT_4.mp4" << 3000 << 3 << 1 << 30;
+        QTest::newRow("rear channel file") << "20240101_120000_INF_2.mp4" << 4000 << 1 << 0 << 0;
+        QTest::newRow("avi") << "20240101_120200_PRK_1.avi" << 3000 << 1 << 1 << 0;
+        QTest::newRow("mp4 without telemetry")
+            << "20240101_120300_USR_1.mp4" << 3000 << 1 << 0 << 0;
+        QTest::newRow("ordinary subtitles") << "subtitles.mp4" << 1000 << 1 << 0 << 0;
+        QTest::newRow("sound only") << "audio_only.mp4" << 2000 << 0 << 1 << 0;
+        QTest::newRow("65 minutes") << "length_65m07s.mp4" << 3907000 << 1 << 0 << 0;
+        QTest::newRow("59.999 s") << "length_59999ms.mp4" << 59999 << 1 << 0 << 1;
+    }
+    void recordingKinds() {
+        QFETCH(QString, name);
+        QFETCH(int, rangeMs);
+        QFETCH(int, videos);
+        QFETCH(int, audios);
+        QFETCH(int, samples);
+        Opened file(name);
+        QCOMPARE(file.result, KDX_OK);
+        KDXInfo info;
+        QCOMPARE(KDXReaderGetInfo(file.reader, &info), KDX_OK);
+        // AAC and PCM audio run a few milliseconds past the pictures.
+        QVERIFY2(qAbs(info.totalRangeMs - rangeMs) <= 30,
+                 qPrintable(QString::number(info.totalRangeMs)));
+        QCOMPARE(info.videoCount, videos);
+        QCOMPARE(info.audioCount, audios);
+        QCOMPARE(info.textDataPresent != 0, samples > 0);
+        QCOMPARE(int(info.tracks[0].frameCount), samples);
+        QCOMPARE(int(readAll(file.reader).size()), samples);
+    }
+
+    void malformedSamplesAreSkipped() {
+        Opened file("malformed.mp4");
+        QCOMPARE(file.result, KDX_OK);
+        KDXInfo info;
+        QCOMPARE(KDXReaderGetInfo(file.reader, &info), KDX_OK);
+        QCOMPARE(info.tracks[0].frameCount, 20u); // samples, good or not
+        int end = 0;
+        const std::vector<KDXTextFrame> frames = readAll(file.reader, &end);
+        QCOMPARE(end, KDX_ERR_END);
+        // The good samples carry G-sensor X = sample number / 100.
+        const std::vector<int> good = {0, 1, 3, 5, 8, 11, 13, 15, 16, 17, 18, 19};
+        QCOMPARE(frames.size(), good.size());
+        for (std::size_t k = 0; k < good.size(); ++k) {
+            QCOMPARE(frames[k].gSensorX, good[k] / 100.0f);
+            QCOMPARE(frames[k].timeMs, qint64(good[k] * 100));
+        }
+        QCOMPARE(traceLines.size(), std::size_t(1));
+        QCOMPARE(QString::fromStdString(traceLines[0]),
+                 QString("kdxstream: 8 telemetry samples were not readings and were skipped"));
+    }
+
+    void badFilesDoNotOpen_data() {
+        QTest::addColumn<QString>("name");
+        QTest::newRow("zero bytes") << "empty.mp4";
+        QTest::newRow("header cut off") << "truncated_moov.mp4";
+        QTest::newRow("text") << "not_video.mp4";
+        QTest::newRow("random bytes") << "random.mp4";
+        QTest::newRow("folder") << "folder.mp4";
+        QTest::newRow("missing") << "20240101_999999_INF_1.mp4";
+    }
+    void badFilesDoNotOpen() {
+        QFETCH(QString, name);
+        Opened file(name);
+        QCOMPARE(file.result, KDX_ERR_OPEN);
+        QVERIFY(file.reader == nullptr);
+        QVERIFY(!traceLines.empty());
+        QVERIFY(QString::fromStdString(traceLines.back())
+                    .startsWith("kdxstream: cannot open the recording ("));
+    }
+
+    void unreadableFileDoesNotOpen() {
+        if (geteuid() == 0)
+            QSKIP("root reads every file");
+        QTemporaryDir dir;
+        const QString path = dir.filePath("20240101_120000_INF_1.mp4");
+        QVERIFY(QFile::copy(media + "/20240101_120000_INF_1.mp4", path));
+        QVERIFY(QFile::setPermissions(path, QFileDevice::Permissions()));
+        const QByteArray path8 = QFile::encodeName(path);
+        KDXOpenParams params{};
+        params.path8 = path8.constData();
+        KDXReader* reader = reinterpret_cast<KDXReader*>(this);
+        QCOMPARE(KDXReaderOpen(&reader, &params), KDX_ERR_OPEN);
+        QVERIFY(reader == nullptr);
+    }
+
+    void headerWithoutStreamsGivesNoInformation() {
+        Opened file("no_streams.mp4");
+        QCOMPARE(file.result, KDX_OK);
+        KDXInfo info;
+        QCOMPARE(KDXReaderGetInfo(file.reader, &info), KDX_ERR_NO_STREAMS);
+    }
+
+    void fileCutInsideItsDataEndsEarly() {
+        Opened file("truncated_data.mp4");
+        QCOMPARE(file.result, KDX_OK);
+        KDXInfo info;
+        QCOMPARE(KDXReaderGetInfo(file.reader, &info), KDX_OK);
+        QCOMPARE(info.tracks[0].frameCount, 40u); // the header still lists them all
+        int end = 0;
+        const std::vector<KDXTextFrame> frames = readAll(file.reader, &end);
+        QVERIFY(end == KDX_ERR_END || end == KDX_ERR_READ);
+        QVERIFY2(frames.size() > 5 && frames.size() < 40,
+                 qPrintable(QString::number(frames.size())));
+        for (std::size_t i = 0; i < frames.size(); ++i)
+            QCOMPARE(frames[i].timeMs, qint64(i * 100)); // what was read is intact
+    }
+
+    void callerMistakes() {
+        KDXReader* reader = nullptr;
+        QCOMPARE(KDXReaderOpen(&reader, nullptr), KDX_ERR_ARGUMENT);
+        QCOMPARE(KDXReaderOpen(nullptr, nullptr), KDX_ERR_ARGUMENT);
+        KDXOpenParams noPath{};
+        QCOMPARE(KDXReaderOpen(&reader, &noPath), KDX_ERR_ARGUMENT);
+        QCOMPARE(KDXReaderGetInfo(nullptr, nullptr), KDX_ERR_ARGUMENT);
+        QCOMPARE(KDXReaderReadFrame(nullptr, nullptr), KDX_ERR_ARGUMENT);
+        QCOMPARE(KDXReaderClose(nullptr), KDX_OK);
+
+        Opened file("20240101_120000_INF_1.mp4");
+        QCOMPARE(file.result, KDX_OK);
+        Frame wrongTrack;
+        wrongTrack.descriptor.track = 1;
+        QCOMPARE(KDXReaderReadFrame(file.reader, &wrongTrack.descriptor), KDX_ERR_TRACK);
+        Frame wrongKind;
+        wrongKind.descriptor.kind = 1;
+        QCOMPARE(KDXReaderReadFrame(file.reader, &wrongKind.descriptor), KDX_ERR_TRACK);
+        Frame small;
+        small.descriptor.bufferSize = 68;
+        QCOMPARE(KDXReaderReadFrame(file.reader, &small.descriptor), KDX_ERR_BUFFER);
+        Frame noBuffer;
+        noBuffer.descriptor.buffer = nullptr;
+        QCOMPARE(KDXReaderReadFrame(file.reader, &noBuffer.descriptor), KDX_ERR_ARGUMENT);
+        // None of the refused calls used up a frame.
+        Frame first;
+        QCOMPARE(KDXReaderReadFrame(file.reader, &first.descriptor), KDX_OK);
+        QCOMPARE(first.descriptor.sequence, 1u);
+        QCOMPARE(first.text.timeMs, qint64(0));
+    }
+
+    void utf16PathWithNonAsciiName() {
+        QTemporaryDir dir;
+        const QString path =
+            dir.filePath(QString::fromUtf8("주행 기록 Ü/20240101_120000_INF_1.mp4"));
+        QVERIFY(QDir().mkpath(QFileInfo(path).path()));
+        QVERIFY(QFile::copy(media + "/20240101_120000_INF_1.mp4", path));
+        KDXOpenParams params{};
+        params.pathUtf16 = reinterpret_cast<const uint16_t*>(path.utf16());
+        KDXReader* reader = nullptr;
+        QCOMPARE(KDXReaderOpen(&reader, &params), KDX_OK);
+        KDXInfo info;
+        QCOMPARE(KDXReaderGetInfo(reader, &info), KDX_OK);
+        QCOMPARE(info.tracks[0].frameCount, 40u);
+        KDXReaderClose(reader);
+    }
+};
+
+QTEST_APPLESS_MAIN(TestKdxStream)
+#include "test_kdxstream.moc"

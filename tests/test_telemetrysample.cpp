@@ -1,0 +1,154 @@
+// The telemetry sample syntax as docs/telemetry-format.md writes it down: what is a reading,
+// which values it gives, and which texts are refused.
+#include "TelemetrySampleParser.h"
+
+#include <QtTest>
+
+#include <cstring>
+#include <vector>
+
+using kdx::TelemetrySampleParser;
+
+namespace {
+
+TelemetrySampleParser::Result parse(const QByteArray& text, KDXTextFrame& frame) {
+    std::memset(&frame, 0, sizeof frame);
+    return TelemetrySampleParser::parseText(text.constData(), std::size_t(text.size()), frame);
+}
+
+} // namespace
+
+class TestTelemetrySample : public QObject {
+    Q_OBJECT
+
+private slots:
+    void readingWithFix() {
+        KDXTextFrame frame;
+        QCOMPARE(parse("G=+0.012,-0.034,+0.998 GPS=37.485312,127.116204 SPD=42.5 FIX=2,3", frame),
+                 TelemetrySampleParser::Reading);
+        QCOMPARE(frame.gSensorX, 0.012f);
+        QCOMPARE(frame.gSensorY, -0.034f);
+        QCOMPARE(frame.gSensorZ, 0.998f);
+        QCOMPARE(frame.latitude, 37.485312f);
+        QCOMPARE(frame.longitude, 127.116204f);
+        QCOMPARE(frame.speed, 42.5f);
+        QCOMPARE(frame.gpsFlags, 2u | (3u << 2));
+        QCOMPARE(frame.fields, KDX_FIELD_GSENSOR | KDX_FIELD_POSITION | KDX_FIELD_SPEED);
+    }
+
+    void readingWithoutFix() {
+        KDXTextFrame frame;
+        QCOMPARE(parse("G=-1.250,+0.300,+1.020 GPS=- FIX=0,0", frame),
+                 TelemetrySampleParser::Reading);
+        QCOMPARE(frame.gSensorX, -1.25f);
+        QCOMPARE(frame.latitude, 0.0f);
+        QCOMPARE(frame.longitude, 0.0f);
+        QCOMPARE(frame.speed, 0.0f);
+        QCOMPARE(frame.gpsFlags, 0u);
+        QCOMPARE(frame.fields, KDX_FIELD_GSENSOR);
+    }
+
+    void defaultsOrderBlanksAndUnknownFields() {
+        KDXTextFrame frame;
+        // FIX left out: 3-D fix with a position, none without. Fields in any order, blanks
+        // and a line end around them, unknown fields skipped.
+        QCOMPARE(parse("  GPS=-33.9,18.4\tALT=35.2  G=0,0,1 HDG=271 \r\n", frame),
+                 TelemetrySampleParser::Reading);
+        QCOMPARE(frame.gpsFlags, 2u);
+        QCOMPARE(frame.latitude, -33.9f);
+        QCOMPARE(frame.longitude, 18.4f);
+        QCOMPARE(frame.fields, KDX_FIELD_GSENSOR | KDX_FIELD_POSITION);
+        QCOMPARE(parse("GPS=- G=0,0,1", frame), TelemetrySampleParser::Reading);
+        QCOMPARE(frame.gpsFlags, 0u);
+        // The ends of every range are still readings.
+        QCOMPARE(parse("G=-64,64,0 GPS=-90,180 SPD=1000", frame), TelemetrySampleParser::Reading);
+        QCOMPARE(frame.longitude, 180.0f);
+        QCOMPARE(parse("G=0,0,0 GPS=90.000000000,-180 SPD=0 FIX=3,3", frame),
+                 TelemetrySampleParser::Reading);
+        QCOMPARE(frame.gpsFlags, 15u);
+    }
+
+    void malformed_data() {
+        QTest::addColumn<QByteArray>("text");
+        QTest::newRow("blank") << QByteArray("   ");
+        QTest::newRow("prose") << QByteArray("garbage text");
+        QTest::newRow("no G") << QByteArray("GPS=37.0,127.0 SPD=3");
+        QTest::newRow("no GPS") << QByteArray("G=0,0,1 SPD=3");
+        QTest::newRow("two G values") << QByteArray("G=0.1,0.2 GPS=-");
+        QTest::newRow("four G values") << QByteArray("G=0.1,0.2,0.3,0.4 GPS=-");
+        QTest::newRow("G twice") << QByteArray("G=0,0,0 G=0,0,0 GPS=-");
+        QTest::newRow("latitude 91") << QByteArray("G=0,0,0 GPS=91.0,127.0");
+        QTest::newRow("longitude -180.5") << QByteArray("G=0,0,0 GPS=37,-180.5");
+        QTest::newRow("one coordinate") << QByteArray("G=0,0,0 GPS=37.5");
+        QTest::newRow("exponent") << QByteArray("G=1e3,0,0 GPS=-");
+        QTest::newRow("nan") << QByteArray("G=nan,0,0 GPS=-");
+        QTest::newRow("inf") << QByteArray("G=inf,0,0 GPS=-");
+        QTest::newRow("G beyond 64") << QByteArray("G=64.5,0,0 GPS=-");
+        QTest::newRow("decimal comma") << QByteArray("G=0,5;0;1 GPS=-");
+        QTest::newRow("bare dot") << QByteArray("G=1.,0,0 GPS=-");
+        QTest::newRow("leading dot") << QByteArray("G=.5,0,0 GPS=-");
+        QTest::newRow("double sign") << QByteArray("G=--1,0,0 GPS=-");
+        QTest::newRow("seven whole digits") << QByteArray("G=0,0,0 GPS=- SPD=1000000");
+        QTest::newRow("ten fraction digits") << QByteArray("G=0.0000000001,0,0 GPS=-");
+        QTest::newRow("negative speed") << QByteArray("G=0,0,0 GPS=37,127 SPD=-1");
+        QTest::newRow("speed over 1000") << QByteArray("G=0,0,0 GPS=37,127 SPD=1000.1");
+        QTest::newRow("flag 4") << QByteArray("G=0,0,0 GPS=37.1,127.1 FIX=4,0");
+        QTest::newRow("one flag") << QByteArray("G=0,0,0 GPS=37.1,127.1 FIX=2");
+        QTest::newRow("empty value") << QByteArray("G=0,0,0 GPS=- ALT=");
+        QTest::newRow("lower-case key") << QByteArray("g=0,0,0 GPS=-");
+        QTest::newRow("no equals") << QByteArray("G=0,0,0 GPS=- tunnel");
+        QTest::newRow("two lines") << QByteArray("G=0,0,0\nGPS=-");
+        QTest::newRow("empty coordinate") << QByteArray("G=0,,0 GPS=-");
+        QTest::newRow("trailing comma") << QByteArray("G=0,0,0, GPS=-");
+    }
+    void malformed() {
+        QFETCH(QByteArray, text);
+        KDXTextFrame frame;
+        QCOMPARE(parse(text, frame), TelemetrySampleParser::Malformed);
+    }
+
+    void movTextFraming() {
+        KDXTextFrame frame;
+        const QByteArray text = "G=0.5,0,1 GPS=-";
+        QByteArray sample;
+        sample.append(char(0)).append(char(text.size())).append(text);
+        // A style box after the text is not part of the reading.
+        const QByteArray styled = sample + QByteArray::fromHex("0000000c7374796c00000000");
+        for (const QByteArray& whole : {sample, styled}) {
+            std::memset(&frame, 0, sizeof frame);
+            QCOMPARE(TelemetrySampleParser::parseMovTextSample(
+                         reinterpret_cast<const std::uint8_t*>(whole.constData()),
+                         std::size_t(whole.size()), frame),
+                     TelemetrySampleParser::Reading);
+            QCOMPARE(frame.gSensorX, 0.5f);
+        }
+
+        const std::uint8_t gap[] = {0, 0};
+        QCOMPARE(TelemetrySampleParser::parseMovTextSample(gap, 2, frame),
+                 TelemetrySampleParser::Empty);
+        // A length running past the sample, and samples too short for a length.
+        QCOMPARE(TelemetrySampleParser::parseMovTextSample(
+                     reinterpret_cast<const std::uint8_t*>(sample.constData()),
+                     std::size_t(sample.size() - 1), frame),
+                 TelemetrySampleParser::Malformed);
+        QCOMPARE(TelemetrySampleParser::parseMovTextSample(gap, 1, frame),
+                 TelemetrySampleParser::Malformed);
+        QCOMPARE(TelemetrySampleParser::parseMovTextSample(nullptr, 0, frame),
+                 TelemetrySampleParser::Malformed);
+    }
+
+    void overlongTextIsRefusedWithoutReadingIt() {
+        // Only the declared length is looked at; a huge one is refused before reading.
+        std::vector<char> text(TelemetrySampleParser::kMaxTextLength + 1, ' ');
+        const char reading[] = "G=0,0,1 GPS=-";
+        std::memcpy(text.data(), reading, sizeof reading - 1);
+        KDXTextFrame frame;
+        QCOMPARE(TelemetrySampleParser::parseText(text.data(), text.size(), frame),
+                 TelemetrySampleParser::Malformed);
+        QCOMPARE(TelemetrySampleParser::parseText(text.data(), text.size() - 1, frame),
+                 TelemetrySampleParser::Reading);
+    }
+};
+
+QTEST_APPLESS_MAIN(TestTelemetrySample)
+#include "test_telemetrysample.moc"
