@@ -49,14 +49,18 @@ TimedTextTelemetrySource::~TimedTextTelemetrySource() {
 
 std::uint32_t TimedTextTelemetrySource::sampleCount() const {
     AVStream* stream = m_format->streams[m_streamIndex];
-    // The MP4 index lists every sample; the header's frame count may include a closing
-    // empty sample that the demuxer never delivers.
+    // The index lists every sample. Empty ones (a bare 2-byte length of 0) are gaps, and
+    // the muxer closes every timed-text track with one; they are not readings.
     const int indexed = avformat_index_get_entries_count(stream);
-    if (indexed > 0)
-        return static_cast<std::uint32_t>(indexed);
-    return stream->nb_frames > 0 && stream->nb_frames <= UINT32_MAX
-               ? static_cast<std::uint32_t>(stream->nb_frames)
-               : 0;
+    if (indexed <= 0)
+        return stream->nb_frames > 0 && stream->nb_frames <= UINT32_MAX
+                   ? static_cast<std::uint32_t>(stream->nb_frames)
+                   : 0;
+    std::uint32_t samples = 0;
+    for (int i = 0; i < indexed; ++i)
+        if (avformat_index_get_entry(stream, i)->size > 2)
+            ++samples;
+    return samples;
 }
 
 std::int32_t TimedTextTelemetrySource::durationMs() const {

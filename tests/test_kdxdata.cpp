@@ -159,6 +159,19 @@ private slots:
         QCOMPARE(data.error(), 0);
     }
 
+    void gapInTheTrackIsNotAFrame() {
+        KDXData data(m_info.data());
+        QCOMPARE(data.KDX_Open(media + "/gap.mp4"), 0);
+        QCOMPARE(data.KDX_GetTextData(nullptr, 0), 0);
+        QCOMPARE(data.error(), 0);
+        QCOMPARE(data.KDX_GetTextDataTotalCount(), 8);
+        // Readings 0-4, then 7-9: G-sensor X is the reading's number / 100.
+        const float expected[] = {0.0f, 0.01f, 0.02f, 0.03f, 0.04f, 0.07f, 0.08f, 0.09f};
+        for (int i = 0; i < 8; ++i)
+            QCOMPARE(*at(data.KDX_GetTextDataFrame(i), 40), expected[i]);
+        QVERIFY(!takeLog().join('\n').contains(":: [w]"));
+    }
+
     void fileCutInsideItsData() {
         KDXData data(m_info.data());
         QCOMPARE(data.KDX_Open(media + "/truncated_data.mp4"), 0);

@@ -54,9 +54,11 @@ def srt_time(ms):
 
 
 def write_srt(path, texts, period_ms=PERIOD_MS):
-    """One cue per sample, back to back from 0, so the track has no gaps."""
+    """One cue per sample, back to back from 0; a None leaves a gap instead of a sample."""
     with open(path, "w", encoding="ascii") as out:
         for i, text in enumerate(texts):
+            if text is None:
+                continue
             start = i * period_ms
             out.write("%d\n%s --> %s\n%s\n\n" % (i + 1, srt_time(start), srt_time(start + period_ms), text))
 
@@ -421,6 +423,13 @@ def make_test(folder, scratch):
     texts[11] += " ALT=35.2"  # unknown fields are skipped, the reading kept
     run(tiny_video() + ["-i", srt("malformed", texts), "-map", "0:v", "-map", "1:s"] +
         TELEMETRY_TRACK + quick + ["-t", "2", path("malformed.mp4")])
+
+    # A gap in the track (no readings from 0.5 to 0.7 s): the muxer fills it with an empty
+    # sample, which is not a reading.
+    texts = ["G=%.2f,0,1 GPS=-" % (i / 100) for i in range(10)]
+    texts[5] = texts[6] = None
+    run(tiny_video() + ["-i", srt("gap", texts), "-map", "0:v", "-map", "1:s"] +
+        TELEMETRY_TRACK + quick + ["-t", "1", path("gap.mp4")])
 
     # Lengths: 65:07, 101:05 (one picture a second) and 59.999 s (telemetry outlasting the
     # video by 999 ms).
