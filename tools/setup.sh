@@ -8,7 +8,7 @@ TAVORIC_ROOT="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
 TAVORIC_BUILD="${TAVORIC_BUILD:-$TAVORIC_ROOT/build}"
 
 TAVORIC_PACKAGES=(
-    build-essential cmake ninja-build pkg-config
+    build-essential cmake ninja-build pkg-config python3
     qtbase5-dev qttools5-dev-tools qttools5-dev libqt5svg5-dev qt5-image-formats-plugins
     libvlc-dev vlc-plugin-base vlc-plugin-video-output
     rapidjson-dev libavformat-dev libavcodec-dev libavutil-dev ffmpeg
