@@ -1,0 +1,132 @@
+#pragma once
+
+#include "GSensorPoint.h"
+#include "GpsPoint.h"
+
+#include <QImage>
+#include <QList>
+#include <QObject>
+#include <QSize>
+#include <QString>
+
+class KDXData;
+class QTimer;
+class QWidget;
+class VLCComponent;
+
+// Between the user interface and the video engine: opens the chosen recording with its
+// telemetry, keeps the play status, runs the 500 ms and 1 s ticks that drive the time
+// display, slider, chart and map, and carries out every play-control request.
+class PlayerInterface : public QObject {
+    Q_OBJECT
+public:
+    enum PlayStatus { PlayIdle = 0, PlayRunning = 1, PlayPaused = 2, PlayStopped = 3 };
+
+    // Shared with the views.
+    static QString currentFile;
+    static int playStatus;
+    static double currentTime;
+    static double currentPosition;
+    static double totalTime;
+    static int playChannelCount;
+    static bool flipState[3];
+    static int volume;
+    static bool muted;
+    static bool stopRequested;
+    static bool playRequested;
+    static bool firstOpenDone;
+    static bool telemetryPresent;
+    static bool gpsPresent;
+    static QList<GpsPoint> gpsList;
+    static QList<GSensorPoint> gSensorList;
+    static QString speedText;
+    static QString latitudeText;
+    static QString longitudeText;
+    static QString gSensorXText;
+    static QString gSensorYText;
+    static QString gSensorZText;
+
+    // Deferred opening: ticks to wait while the engine is still stopping, and once it can
+    // take a new file.
+    static constexpr int kStoppingTicks = 1000;
+    static constexpr int kReadyTicks = 300;
+
+    explicit PlayerInterface(QWidget* timerWindow = nullptr);
+    ~PlayerInterface() override;
+
+    // The snapshot of a channel's current picture (1920 x 1080), or a null image.
+    QImage getScreenImage(int channel);
+
+    void setMainScreen(QWidget* widget);
+    void setSub1Screen(QWidget* widget);
+    void setSub2Screen(QWidget* widget);
+
+    VLCComponent* engine() const { return m_engine; }
+
+signals:
+    void onTimeout_500ms();
+    void onTimeout_1s();
+    void onTimeUpdate();
+    void onSetTextData();
+    void onSendUnsetFullScreen();
+    void onSendLogoSet(bool show);
+    void onSetBlockEvent(bool block);
+    void onSendShowWindow(int channels);
+    void onSendClear();
+    void onSendPlayNextFile();
+    void onSendPlayPreviusFile();
+    void onSendSetFirstFile();
+    void onSendFileAllDelete();
+    void onInitResizeView(int channels);
+    void onSetPlayData();
+    void onSendSetPlayButton();
+    void onUpdateTimeNow();
+    void onSendMapEnable();
+    void onSendZoomReset();
+
+public slots:
+    void checkFileReady();
+    void onCheckSetReady();
+    void onOpenFile();
+    void onPlay();
+    void onPause();
+    void onClickStop(bool isClick);
+    void onStop(int type);
+    void on5sMove(bool move);
+    void onFrameMove(bool move);
+    void onFlip(int ScreenNum);
+    void onFullScreen();
+    void onControlSpeed(double speedNum);
+    void onControlVolume(int volume);
+    void onSetMute(bool mute);
+    void onUpdatePlayTime();
+    void onCheckFileEnd();
+    void onPlayPosMove(int ms);
+    void onRecvStop();
+    void onPlayBackFile();
+    void onResizeVideo(int id, QSize size);
+    void onStopTimer();
+    void onRestartTimer();
+    void onSetComplete();
+
+private:
+    void startTicks();
+    void stopTicks();
+    void onClearData();
+    void onClearFileInfo();
+    void userStop();
+    void fileGone();
+    void readTelemetry();
+    // Blocks until the engine reports Stopped (in 100 ms sleeps, as a stop takes).
+    void waitForEngineStopped();
+
+    VLCComponent* m_engine;
+    QTimer* m_readyTimer;
+    QTimer* m_tick500;
+    QTimer* m_tick1s;
+    int m_readyTicks = 0;
+    int m_readyLimit = kReadyTicks;
+    KDXData* m_telemetry = nullptr;
+    unsigned char* m_info;
+    char m_pathBuffer[256] = {};
+};

@@ -1,0 +1,586 @@
+#include "VLCComponent.h"
+
+#include "DriftEstimator.h"
+#include "StatusLog.h"
+#include "VlcCompat.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QTimer>
+#include <QWidget>
+
+#include <cmath>
+#include <cstring>
+
+int VLCComponent::channelCount = 0;
+int VLCComponent::playerState = 0;
+int VLCComponent::esDeletePending = 0;
+int VLCComponent::stopReason = 0;
+QWidget* VLCComponent::videoWidgets[VLCComponent::kMaxChannels] = {nullptr, nullptr, nullptr};
+
+namespace {
+
+// libvlc's own messages are not wanted in the status log.
+void discardLog(void*, int, const libvlc_log_t*, const char*, va_list) {}
+
+} // namespace
+
+VLCComponent::VLCComponent(QObject* parent) : QObject(parent), m_syncTimer(new QTimer(this)) {
+    const char* const args[] = {"--no-keyboard-events",
+                                "--no-mouse-events",
+                                "--mouse-hide-timeout=-1",
+                                "--no-sub-autodetect-file",
+                                "--no-interact",
+                                "--no-stats",
+                                "--no-snapshot-preview",
+                                "--no-snapshot-sequential",
+                                "--avcodec-threads=0",
+                                "--file-caching=1000",
+                                "--verbose=1",
+                                "--clock-jitter=5000",
+                                "--clock-synchro=0"};
+    m_instance = libvlc_new(static_cast<int>(sizeof args / sizeof args[0]), args);
+    if (m_instance != nullptr) {
+        for (auto& player : m_players)
+            player = libvlc_media_player_new(m_instance);
+        libvlc_log_set(m_instance, discardLog, nullptr);
+    }
+    if (m_players[0] != nullptr) {
+        m_eventManager = libvlc_media_player_event_manager(m_players[0]);
+        VlcCompat::attach(m_players[0], libvlc_MediaPlayerPlaying, onPlaying, this);
+        VlcCompat::attach(m_players[0], libvlc_MediaPlayerStopped, onStopped, this);
+        VlcCompat::attach(m_players[0], libvlc_MediaPlayerVout, onDisplay, this);
+        VlcCompat::attach(m_players[0], libvlc_MediaPlayerESAdded, onEsAdded, this);
+        VlcCompat::attach(m_players[0], libvlc_MediaPlayerESDeleted, onEsDeleted, nullptr);
+        VlcCompat::attach(m_players[0], VlcCompat::kStopping, onEvent, this);
+        VlcCompat::attach(m_players[0], libvlc_MediaPlayerESSelected, onEvent, this);
+    }
+    connect(this, &VLCComponent::send_ShowWidget, this, &VLCComponent::recv_ShowWidget);
+    connect(this, &VLCComponent::playingReached, this, &VLCComponent::pullRearChannelsToFront,
+            Qt::QueuedConnection);
+    connect(this, &VLCComponent::firstPictureShown, this, &VLCComponent::applyFirstPicture,
+            Qt::QueuedConnection);
+    connect(this, &VLCComponent::stoppedReached, this, &VLCComponent::finishStop,
+            Qt::QueuedConnection);
+    m_syncTimer->setInterval(kSyncIntervalMs);
+    connect(m_syncTimer, &QTimer::timeout, this, &VLCComponent::syncRearChannels);
+    playerState = Created;
+}
+
+VLCComponent::~VLCComponent() {
+    if (m_players[0] != nullptr) {
+        VlcCompat::detach(m_players[0], libvlc_MediaPlayerPlaying, onPlaying, this);
+        VlcCompat::detach(m_players[0], libvlc_MediaPlayerStopped, onStopped, this);
+        VlcCompat::detach(m_players[0], libvlc_MediaPlayerVout, onDisplay, this);
+        VlcCompat::detach(m_players[0], libvlc_MediaPlayerESAdded, onEsAdded, this);
+        VlcCompat::detach(m_players[0], libvlc_MediaPlayerESDeleted, onEsDeleted, nullptr);
+    }
+    // A stop still running on the stop worker must not outlive its player.
+    VlcCompat::waitForStops();
+    for (auto& player : m_players) {
+        if (player != nullptr)
+            libvlc_media_player_release(player);
+        player = nullptr;
+    }
+    if (m_instance != nullptr)
+        libvlc_release(m_instance);
+}
+
+bool VLCComponent::IsSplitChannelFile(const char* path) {
+    logDebug("VLCComponent::IsSplitChannelFile");
+    const size_t length = path != nullptr ? std::strlen(path) : 0;
+    m_splitChannelFiles = false;
+    for (const char* suffix : {"_1.mp4", "_2.mp4", "_3.mp4"}) {
+        if (length >= 6 && std::strcmp(path + length - 6, suffix) == 0)
+            m_splitChannelFiles = true;
+    }
+    return m_splitChannelFiles;
+}
+
+void VLCComponent::SetFile(char* path, int count, double totalTime) {
+    logDebug("VLCComponent::SetFile");
+    if (m_players[0] == nullptr)
+        return;
+    m_filePath = path;
+    m_totalTime = totalTime;
+    channelCount = count;
+    stopReason = StopGoNext;
+
+    if (VlcCompat::window(m_players[0]) == 0) {
+        for (int i = 0; i < kMaxChannels; ++i) {
+            if (videoWidgets[i] != nullptr)
+                VlcCompat::setWindow(m_players[i], videoWidgets[i]->winId());
+        }
+    }
+
+    if (!m_splitChannelFiles) {
+        VlcCompat::setSingleFileMedia(m_instance, m_players, count, path);
+        playerState = FileSet;
+        logDebug("VLCComponent::SetFileClear");
+    } else {
+        SetSplitChannelFiles(path);
+    }
+    logInfo("!!! call VLC SetFile");
+}
+
+void VLCComponent::SetSplitChannelFiles(const char* path) {
+    VlcCompat::forgetTrackChoices();
+    const QFileInfo info(QDir::toNativeSeparators(QString::fromLocal8Bit(path)));
+    const QString directory = info.absolutePath();
+    const QString baseName = info.completeBaseName();
+    const QString stem =
+        baseName.lastIndexOf('_') >= 0 ? baseName.left(baseName.size() - 2) : baseName;
+
+    QStringList found;
+    for (const char* suffix : {"_1.mp4", "_2.mp4", "_3.mp4"}) {
+        const QString candidate =
+            QDir::toNativeSeparators(directory + QDir::separator() + stem + QLatin1String(suffix));
+        const QFileInfo candidateInfo(candidate);
+        if (candidateInfo.exists() && candidateInfo.isFile())
+            found << candidate;
+    }
+    for (int i = 0; i < found.size(); ++i) {
+        char buffer[256];
+        std::strncpy(buffer, found[i].toLocal8Bit().constData(), sizeof buffer - 1);
+        buffer[sizeof buffer - 1] = '\0';
+        libvlc_media_t* media = libvlc_media_new_path(m_instance, buffer);
+        if (media == nullptr)
+            continue;
+        if (i > 0) {
+            libvlc_media_add_option(media, "no-audio");
+            libvlc_media_player_set_media(m_players[i], media);
+        } else {
+            libvlc_media_player_set_media(m_players[0], media);
+            channelCount = found.size();
+        }
+        libvlc_media_release(media);
+    }
+    playerState = FileSet;
+}
+
+void VLCComponent::SetVideoWindow(int index, QWidget* widget) {
+    logDebug("VLCComponent::SetVideoWindow");
+    logInfo("========== Set Video Window %d ==========", index);
+    if (index >= 0 && index < kMaxChannels)
+        videoWidgets[index] = widget;
+}
+
+void VLCComponent::SetResize(int index, QSize size) {
+    logDebug("VLCComponent::SetResize");
+    if (index >= 0 && index < kMaxChannels && videoWidgets[index] != nullptr)
+        videoWidgets[index]->resize(size);
+}
+
+int VLCComponent::Play() {
+    logDebug("VLCComponent::Play");
+    if (m_players[0] == nullptr)
+        return -1;
+    emit send_ShowWidget(false);
+
+    bool haveWaveOut = false;
+    libvlc_audio_output_t* outputs = libvlc_audio_output_list_get(m_instance);
+    for (libvlc_audio_output_t* it = outputs; it != nullptr; it = it->p_next) {
+        logInfo("audio output: %s", it->psz_name);
+        if (std::strncmp(it->psz_name, "waveout", 7) == 0) {
+            haveWaveOut = true;
+            break;
+        }
+    }
+    libvlc_audio_output_list_release(outputs);
+
+    if (VlcCompat::hasAudioDevice(m_players[0]))
+        VlcCompat::resetAudioDevice(m_players[0]);
+    // "waveout" exists on Windows only; elsewhere libvlc's default output stays.
+    if (haveWaveOut)
+        libvlc_audio_output_set(m_players[0], "waveout");
+
+    m_rate = 1.0f;
+    m_firstPictureSeen = false;
+    for (int i = 0; i < channelCount && i < kMaxChannels; ++i) {
+        libvlc_media_player_play(m_players[i]);
+        libvlc_media_player_set_rate(m_players[i], 1.0f);
+    }
+    emit send_setBlockEvent(true);
+    return 0;
+}
+
+void VLCComponent::Pause() {
+    logDebug("VLCComponent::Pause");
+    m_syncTimer->stop();
+    for (int i = 0; i < channelCount && i < kMaxChannels; ++i)
+        libvlc_media_player_pause(m_players[i]);
+    playerState = Paused;
+}
+
+void VLCComponent::Resume() {
+    logDebug("VLCComponent::Resume");
+    for (int i = 0; i < channelCount && i < kMaxChannels; ++i)
+        libvlc_media_player_set_pause(m_players[i], 0);
+    playerState = Playing;
+    resetDriftEstimates();
+    if (channelCount > 1)
+        m_syncTimer->start();
+}
+
+void VLCComponent::Stop(int reason) {
+    logDebug("VLCComponent::Stop");
+    logInfo("Stop");
+    m_syncTimer->stop();
+    if (playerState == Paused)
+        Resume();
+    m_syncTimer->stop();
+    for (int i = 0; i < channelCount && i < kMaxChannels; ++i)
+        libvlc_media_player_set_rate(m_players[i], 1.0f);
+    playerState = StopRequested;
+    emit send_setLogo(true);
+    emit send_setBlockEvent(true);
+    stopReason = reason;
+    // Rear players first: the front player's Stopped event then comes last, when every
+    // channel has let go of its file.
+    for (int i = std::min(channelCount, int(kMaxChannels)) - 1; i >= 0; --i)
+        VlcCompat::stopAsync(m_players[i]);
+}
+
+void VLCComponent::Seek(int ms) {
+    logDebug("VLCComponent::Seek");
+    resetDriftEstimates();
+    for (int i = 0; i < channelCount && i < kMaxChannels; ++i)
+        VlcCompat::setTime(m_players[i], ms, false);
+}
+
+void VLCComponent::Forward(int ms) {
+    logDebug("VLCComponent::Forward");
+    const double target = double(libvlc_media_player_get_time(m_players[0])) + ms;
+    if (ms < 0) {
+        Resume();
+        return;
+    }
+    if (m_totalTime - target <= 0) {
+        Seek(int(m_totalTime));
+        playerState = Paused;
+        return;
+    }
+    Seek(int(target));
+    if (playerState != Paused)
+        Resume();
+}
+
+void VLCComponent::Rewind(int ms) {
+    logDebug("VLCComponent::Rewind");
+    if (ms < 0) {
+        Resume();
+        Stop(StopGoBack);
+        return;
+    }
+    const double target = double(libvlc_media_player_get_time(m_players[0])) - ms;
+    Seek(target < 0 ? 0 : int(target));
+    if (playerState != Paused)
+        Resume();
+}
+
+void VLCComponent::NextFrame() {
+    logDebug("VLCComponent::NextFrame");
+    for (int i = 0; i < channelCount && i < kMaxChannels; ++i)
+        libvlc_media_player_next_frame(m_players[i]);
+}
+
+void VLCComponent::SetSpeed(double rate) {
+    logDebug("VLCComponent::SetSpeed");
+    const int used = std::min(channelCount, int(kMaxChannels));
+    for (int i = 0; i < used; ++i)
+        libvlc_media_player_set_pause(m_players[i], 1);
+    m_rate = float(rate);
+    resetDriftEstimates();
+    for (int i = 0; i < used; ++i)
+        libvlc_media_player_set_rate(m_players[i], m_rate);
+    const double t = double(libvlc_media_player_get_time(m_players[0]));
+    const double target = (t - 0.5 < 0) ? 0 : t - 1000;
+    VlcCompat::setTime(m_players[0], int64_t(target), true);
+    for (int i = 0; i < used; ++i)
+        libvlc_media_player_set_pause(m_players[i], 0);
+}
+
+void VLCComponent::SetVolume(int volume) {
+    logDebug("VLCComponent::SetVolume");
+    libvlc_audio_set_volume(m_players[0], volume);
+}
+
+void VLCComponent::SetMute(bool mute) {
+    logDebug("VLCComponent::SetMute");
+    libvlc_audio_set_mute(m_players[0], mute ? 1 : 0);
+}
+
+double VLCComponent::GetCurrentPos() {
+    logDebug("VLCComponent::GetCurrentPos");
+    return double(libvlc_media_player_get_time(m_players[0]));
+}
+
+double VLCComponent::GetTotalTime() {
+    logDebug("VLCComponent::GetTotalTime");
+    return double(libvlc_media_player_get_length(m_players[0]));
+}
+
+double VLCComponent::GetPosition() {
+    return double(libvlc_media_player_get_position(m_players[0]));
+}
+
+int VLCComponent::GetChannelCount() {
+    return channelCount;
+}
+
+double VLCComponent::GetChannelTime(int channel) {
+    if (channel < 0 || channel >= kMaxChannels)
+        return -1;
+    return double(libvlc_media_player_get_time(m_players[channel]));
+}
+
+int VLCComponent::GetImage(int channel, const char* path) {
+    logDebug("VLCComponent::GetImage");
+    if (channel < 0 || channel >= kMaxChannels)
+        return -1;
+    return libvlc_video_take_snapshot(m_players[channel], 0, path, 1920, 1080);
+}
+
+bool VLCComponent::stoppingOrStopped() const {
+    return playerState == StopRequested || playerState == Stopping || playerState == Stopped;
+}
+
+// ---- Event handlers (libvlc threads) ----
+
+void VLCComponent::onPlaying(const libvlc_event_t*, void* self) {
+    emit static_cast<VLCComponent*>(self)->playingReached();
+}
+
+void VLCComponent::onDisplay(const libvlc_event_t* event, void* self) {
+    auto* engine = static_cast<VLCComponent*>(self);
+    logDebug("VLCComponent::onDisplay");
+    logInfo("!@# display_cb %d", channelCount);
+    // A video output going away (count 0) belongs to a stop, not to a first picture.
+    // libvlc may report further outputs of the same start; the first one counts.
+    if (event->u.media_player_vout.new_count > 0 && !engine->stoppingOrStopped() &&
+        !engine->m_firstPictureSeen.exchange(true))
+        emit engine->firstPictureShown();
+}
+
+void VLCComponent::onStopped(const libvlc_event_t*, void* self) {
+    auto* engine = static_cast<VLCComponent*>(self);
+    logDebug("VLCComponent::VLC_Stop_cb");
+    const int reason = stopReason;
+    switch (reason) {
+    case StopGoNext:
+        emit engine->send_GoNext();
+        emit engine->send_setBlockEvent(true);
+        break;
+    case StopShowLogo:
+        emit engine->send_setLogo(true);
+        emit engine->send_setBlockEvent(false);
+        break;
+    case StopPlain:
+        emit engine->send_setBlockEvent(false);
+        break;
+    case StopFileRemoved:
+        logInfo("Stop cause File Remove");
+        break;
+    case StopGoBack:
+        emit engine->send_GoBack();
+        emit engine->send_setBlockEvent(true);
+        break;
+    default:
+        break;
+    }
+    emit engine->stoppedReached(reason);
+    playerState = Stopped;
+    logInfo("********** event_occur libvlc_Stopped **********");
+}
+
+void VLCComponent::onEsAdded(const libvlc_event_t*, void*) {}
+
+void VLCComponent::onEsDeleted(const libvlc_event_t* event, void*) {
+    if (VlcCompat::isTrackListBookkeeping(event))
+        return;
+    logDebug("VLCComponent::VLC_ES_Deleted_cb");
+    logInfo("********** event_occur libvlc_MediaPlayerESDeleted **********");
+    if (esDeletePending > 0) {
+        playerState = EsDeleting;
+        --esDeletePending;
+    }
+    if (esDeletePending == 0) {
+        channelCount = 0;
+        playerState = Stopped;
+    }
+}
+
+void VLCComponent::onEvent(const libvlc_event_t* event, void* self) {
+    auto* engine = static_cast<VLCComponent*>(self);
+    const auto type = static_cast<libvlc_event_type_t>(event->type);
+    if (type == VlcCompat::kStopping) {
+        logDebug("VLCComponent::libvlc_MediaPlayerStopping");
+        logInfo("********** event_occur libvlc_MediaPlayerStopping **********");
+        emit engine->send_ShowWidget(false);
+        playerState = Stopping;
+        return;
+    }
+    switch (type) {
+    case libvlc_MediaPlayerESSelected:
+        logDebug("VLCComponent::libvlc_MediaPlayerESSelected");
+        logInfo("********** event_occur libvlc_MediaPlayerESSelected **********");
+        break;
+    case libvlc_MediaPlayerTimeChanged:
+        logDebug("VLCComponent::libvlc_MediaPlayerTimeChanged");
+        logInfo("********** event_occur libvlc_MediaPlayerTimeChanged **********");
+        if (playerState == DisplayComp)
+            logInfo("player currentstate is DisplayComp");
+        break;
+    case libvlc_MediaPlayerPositionChanged:
+        logDebug("VLCComponent::libvlc_MediaPlayerPositionChanged");
+        logInfo("********** event_occur libvlc_MediaPlayerPositionChanged **********");
+        break;
+    case libvlc_MediaPlayerVout:
+        logDebug("VLCComponent::libvlc_MediaPlayerVout");
+        logInfo("********** event_occur libvlc_MediaPlayerPositionChanged **********");
+        break;
+    case libvlc_MediaPlayerSnapshotTaken:
+        logDebug("VLCComponent::libvlc_MediaPlayerSnapshotTaken");
+        logInfo("!@# libvlc_MediaPlayerSnapshotTaken");
+        break;
+    case libvlc_MediaPlayerBuffering:
+        logDebug("VLCComponent::libvlc_MediaPlayerBuffering");
+        logInfo("!@# libvlc_MediaPlayerBuffering");
+        break;
+    case libvlc_MediaPlayerEncounteredError:
+        logDebug("VLCComponent::libvlc_MediaPlayerEncounteredError");
+        logInfo("!@# libvlc_MediaPlayerEncounteredError");
+        break;
+    default:
+        logInfo("********** event_occur %d **********", int(type));
+        break;
+    }
+}
+
+// ---- Follow-ups of events (GUI thread) ----
+
+void VLCComponent::pullRearChannelsToFront() {
+    const libvlc_time_t front = libvlc_media_player_get_time(m_players[0]);
+    logInfo("!@# time3 = %lld", static_cast<long long>(front));
+    for (int i = 1; i < channelCount && i < kMaxChannels; ++i)
+        VlcCompat::setTime(m_players[i], front, false);
+}
+
+void VLCComponent::applyFirstPicture() {
+    // The stop may have been asked for while this was queued.
+    if (stoppingOrStopped())
+        return;
+    const libvlc_state_t state = libvlc_media_player_get_state(m_players[0]);
+    if (state == libvlc_Ended || state == libvlc_Stopped)
+        return;
+    const libvlc_time_t front = libvlc_media_player_get_time(m_players[0]);
+    m_trackPending = 0;
+    for (int i = 0; i < channelCount && i < kMaxChannels; ++i) {
+        if (!m_splitChannelFiles && !VlcCompat::tracksChosenWithMedia() &&
+            VlcCompat::selectVideoTrack(m_players[i], i) != 0)
+            m_trackPending |= 1 << i;
+        libvlc_media_player_set_rate(m_players[i], 1.0f);
+        if (i > 0)
+            VlcCompat::setTime(m_players[i], front, true);
+    }
+    if (m_trackPending != 0) {
+        m_trackAttempts = 0;
+        QTimer::singleShot(kTrackRetryMs, this, &VLCComponent::retryTrackSelection);
+    }
+    m_rate = 1.0f;
+    resetDriftEstimates();
+    playerState = Playing;
+    emit send_setLogo(false);
+    emit send_playNow();
+    emit send_ShowWidget(true);
+    if (channelCount > 1)
+        m_syncTimer->start();
+}
+
+void VLCComponent::retryTrackSelection() {
+    // A rear player of a single-file recording learns its media's tracks a little after the
+    // front player shows its first picture; until then it shows the first track.
+    if (stoppingOrStopped() || m_trackPending == 0)
+        return;
+    for (int i = 0; i < channelCount && i < kMaxChannels; ++i) {
+        if ((m_trackPending & (1 << i)) && VlcCompat::selectVideoTrack(m_players[i], i) == 0)
+            m_trackPending &= ~(1 << i);
+    }
+    if (m_trackPending != 0 && ++m_trackAttempts < kTrackRetries)
+        QTimer::singleShot(kTrackRetryMs, this, &VLCComponent::retryTrackSelection);
+    else if (m_trackPending != 0)
+        logWarning("[VLCComponent]: video tracks not selected for players 0x%x", m_trackPending);
+}
+
+void VLCComponent::finishStop(int reason) {
+    VlcCompat::resetAudioDevice(m_players[0]);
+    if (reason == StopFileRemoved)
+        libvlc_media_player_set_media(m_players[0], nullptr);
+}
+
+void VLCComponent::syncRearChannels() {
+    if (playerState != Playing || channelCount < 2) {
+        m_syncTimer->stop();
+        return;
+    }
+    const double front = double(libvlc_media_player_get_time(m_players[0]));
+    if (front <= 0)
+        return;
+    for (int i = 1; i < channelCount && i < kMaxChannels; ++i) {
+        if (libvlc_media_player_get_state(m_players[i]) != libvlc_Playing)
+            continue;
+        const double rear = double(libvlc_media_player_get_time(m_players[i]));
+        const DriftEstimator::Decision decision = m_drift[i].add(front, rear);
+        switch (decision.action) {
+        case DriftEstimator::Action::Seek:
+            logDebug("VLCComponent::syncRearChannels channel %d off by %.0f ms: seek", i,
+                     decision.driftMs);
+            libvlc_media_player_set_rate(m_players[i], m_rate);
+            VlcCompat::setTime(m_players[i], int64_t(front), false);
+            break;
+        case DriftEstimator::Action::Nudge:
+            logDebug("VLCComponent::syncRearChannels channel %d off by %.0f ms: rate x%.3f", i,
+                     decision.driftMs, decision.rateScale);
+            libvlc_media_player_set_rate(m_players[i], float(m_rate * decision.rateScale));
+            break;
+        case DriftEstimator::Action::None:
+            if (libvlc_media_player_get_rate(m_players[i]) != m_rate)
+                libvlc_media_player_set_rate(m_players[i], m_rate);
+            break;
+        }
+    }
+}
+
+void VLCComponent::resetDriftEstimates() {
+    for (auto& estimator : m_drift)
+        estimator.reset();
+}
+
+void VLCComponent::recv_ShowWidget(bool show) {
+    logDebug("VLCComponent::recv_ShowWidget");
+    const int used = std::min(channelCount, int(kMaxChannels));
+    if (!show) {
+        for (int i = 0; i < used; ++i) {
+            if (videoWidgets[i] != nullptr)
+                videoWidgets[i]->hide();
+        }
+        return;
+    }
+    for (int i = 1; i < used; ++i) {
+        QWidget* widget = videoWidgets[i];
+        if (widget != nullptr && widget->parentWidget() != nullptr)
+            widget->setGeometry(0, 0, widget->parentWidget()->width(),
+                                widget->parentWidget()->height());
+    }
+    for (int i = 0; i < used; ++i) {
+        QWidget* widget = videoWidgets[i];
+        if (widget == nullptr)
+            continue;
+        const QString parentName =
+            widget->parentWidget() ? widget->parentWidget()->objectName() : QString();
+        logInfo("!!! call vlc recv %s", parentName.toLocal8Bit().constData());
+        widget->update();
+        widget->show();
+    }
+    emit send_setBlockEvent(false);
+}

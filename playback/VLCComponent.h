@@ -1,0 +1,132 @@
+#pragma once
+
+#include "DriftEstimator.h"
+#include <QObject>
+
+#include <QSize>
+
+#include <vlc/vlc.h>
+
+#include <atomic>
+
+class QTimer;
+class QWidget;
+
+// Drives libvlc: one instance, three media players (front, rear 1, rear 2) drawing into the
+// scene widgets. Player 0 is the master: time, length, rate, volume and mute are its own,
+// and the other players are pulled to its time.
+//
+// libvlc calls the event handlers on its own threads. They only record state and emit
+// signals; whatever libvlc work must follow an event runs in a queued slot on the GUI
+// thread, because calling back into a player from its own callback can deadlock.
+class VLCComponent : public QObject {
+    Q_OBJECT
+public:
+    enum PlayerState {
+        Created = 1,
+        FileSet = 2,
+        DisplayComp = 4,
+        Playing = 5,
+        Paused = 6,
+        StopRequested = 7,
+        Stopping = 8,
+        EsDeleting = 9,
+        Stopped = 10,
+    };
+    enum StopReason {
+        StopGoNext = 0,
+        StopShowLogo = 2,
+        StopPlain = 3,
+        StopFileRemoved = 4,
+        StopGoBack = 5,
+    };
+    static constexpr int kMaxChannels = 3;
+
+    // Shared with the coordinator, the file list and the panels.
+    static int channelCount;
+    static int playerState;
+    static int esDeletePending;
+    static int stopReason;
+    static QWidget* videoWidgets[kMaxChannels];
+
+    explicit VLCComponent(QObject* parent = nullptr);
+    ~VLCComponent() override;
+
+    bool IsSplitChannelFile(const char* path);
+    void SetFile(char* path, int count, double totalTime);
+    void SetVideoWindow(int index, QWidget* widget);
+    void SetResize(int index, QSize size);
+    int Play();
+    void Pause();
+    void Resume();
+    void Stop(int reason);
+    void Seek(int ms);
+    void Forward(int ms);
+    void Rewind(int ms);
+    void NextFrame();
+    void SetSpeed(double rate);
+    void SetVolume(int volume);
+    void SetMute(bool mute);
+    double GetCurrentPos();
+    double GetTotalTime();
+    double GetPosition();
+    int GetChannelCount();
+    int GetImage(int channel, const char* path);
+
+    // Time of one channel's player in ms (for checks of the channels' step).
+    double GetChannelTime(int channel);
+
+    // The rear players' distance from the front player is checked this often while playing.
+    static constexpr int kSyncIntervalMs = 170;
+
+signals:
+    void send_GoNext();
+    void send_GoBack();
+    void send_setLogo(bool);
+    void send_setBlockEvent(bool);
+    void send_playNow();
+    void send_ApplyWindowToWidget();
+    void send_ShowWidget(bool show);
+
+    // From the event handlers to the GUI thread.
+    void playingReached();
+    void firstPictureShown();
+    void stoppedReached(int reason);
+
+public slots:
+    void recv_ShowWidget(bool show);
+
+private slots:
+    void pullRearChannelsToFront();
+    void applyFirstPicture();
+    void finishStop(int reason);
+    void syncRearChannels();
+    void retryTrackSelection();
+
+private:
+    static void onPlaying(const libvlc_event_t* event, void* self);
+    static void onStopped(const libvlc_event_t* event, void* self);
+    static void onDisplay(const libvlc_event_t* event, void* self);
+    static void onEsAdded(const libvlc_event_t* event, void* self);
+    static void onEsDeleted(const libvlc_event_t* event, void* self);
+    static void onEvent(const libvlc_event_t* event, void* self);
+
+    void SetSplitChannelFiles(const char* path);
+    bool stoppingOrStopped() const;
+    void resetDriftEstimates();
+
+    libvlc_instance_t* m_instance = nullptr;
+    libvlc_media_player_t* m_players[kMaxChannels] = {nullptr, nullptr, nullptr};
+    libvlc_event_manager_t* m_eventManager = nullptr;
+    double m_totalTime = 0;
+    const char* m_filePath = nullptr;
+    bool m_splitChannelFiles = false;
+    QTimer* m_syncTimer;
+    DriftEstimator m_drift[kMaxChannels];
+    float m_rate = 1.0f;
+    std::atomic<bool> m_firstPictureSeen{false};
+    static constexpr int kTrackRetryMs = 50;
+    static constexpr int kTrackRetries = 60;
+    int m_trackPending = 0;
+    int m_trackAttempts = 0;
+};

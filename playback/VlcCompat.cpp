@@ -1,0 +1,361 @@
+#include "VlcCompat.h"
+
+#include <condition_variable>
+#include <cstdlib>
+#include <deque>
+#include <functional>
+#include <map>
+#include <mutex>
+#include <string>
+#include <thread>
+#include <vector>
+
+#if LIBVLC_VERSION_MAJOR >= 4
+
+int VlcCompat::attach(libvlc_media_player_t* player, libvlc_event_type_t type,
+                      libvlc_callback_t callback, void* data) {
+    return libvlc_event_attach(libvlc_media_player_event_manager(player), type, callback, data);
+}
+void VlcCompat::detach(libvlc_media_player_t* player, libvlc_event_type_t type,
+                       libvlc_callback_t callback, void* data) {
+    libvlc_event_detach(libvlc_media_player_event_manager(player), type, callback, data);
+}
+void VlcCompat::stopAsync(libvlc_media_player_t* player) {
+    libvlc_media_player_stop_async(player);
+}
+void VlcCompat::waitForStops() {}
+void VlcCompat::setTime(libvlc_media_player_t* player, int64_t ms, bool fast) {
+    libvlc_media_player_set_time(player, ms, fast);
+}
+int VlcCompat::selectVideoTrack(libvlc_media_player_t* player, int index) {
+    libvlc_media_tracklist_t* list =
+        libvlc_media_player_get_tracklist(player, libvlc_track_video, false);
+    if (list == nullptr)
+        return -1;
+    int result = -1;
+    if (index >= 0 && static_cast<size_t>(index) < libvlc_media_tracklist_count(list)) {
+        libvlc_media_player_select_track(player, libvlc_media_tracklist_at(list, index));
+        result = 0;
+    }
+    libvlc_media_tracklist_delete(list);
+    return result;
+}
+bool VlcCompat::hasAudioDevice(libvlc_media_player_t* player) {
+    char* device = libvlc_audio_output_device_get(player);
+    std::free(device);
+    return device != nullptr;
+}
+void VlcCompat::resetAudioDevice(libvlc_media_player_t* player) {
+    libvlc_audio_output_device_set(player, nullptr);
+}
+
+#else
+
+namespace {
+
+struct Handler {
+    libvlc_callback_t callback;
+    void* data;
+};
+
+// Handlers of the notifications this class raises itself, by player.
+struct Registry {
+    std::mutex mutex;
+    std::map<libvlc_media_player_t*, std::vector<Handler>> stopping;
+    std::map<libvlc_media_player_t*, std::vector<Handler>> stopped;
+    std::map<libvlc_media_player_t*, int> endWatchers;
+};
+
+Registry& registry() {
+    static Registry instance;
+    return instance;
+}
+
+std::vector<Handler> handlersOf(std::map<libvlc_media_player_t*, std::vector<Handler>>& map,
+                                libvlc_media_player_t* player) {
+    std::lock_guard<std::mutex> lock(registry().mutex);
+    const auto it = map.find(player);
+    return it == map.end() ? std::vector<Handler>() : it->second;
+}
+
+void raise(libvlc_media_player_t* player, libvlc_event_type_t type,
+           const std::vector<Handler>& handlers) {
+    libvlc_event_t event{};
+    event.type = static_cast<int>(type);
+    event.p_obj = player;
+    for (const Handler& handler : handlers)
+        handler.callback(&event, handler.data);
+}
+
+void stopNow(libvlc_media_player_t* player) {
+    raise(player, VlcCompat::kStopping, handlersOf(registry().stopping, player));
+    const libvlc_state_t before = libvlc_media_player_get_state(player);
+    // 3.0 sends Stopped from inside stop() unless the player was already stopped; 4.x
+    // always reports the end of a stop, so make up for the missing event.
+    libvlc_media_player_stop(player);
+    if (before == libvlc_Stopped || before == libvlc_NothingSpecial)
+        raise(player, libvlc_MediaPlayerStopped, handlersOf(registry().stopped, player));
+}
+
+// Runs libvlc work that must not happen inside a libvlc callback or on the GUI thread, one
+// job after another in the order asked for: a player is never stopped twice at once and
+// stops finish in a predictable order.
+class Worker {
+public:
+    static Worker& instance() {
+        static Worker worker;
+        return worker;
+    }
+
+    void post(std::function<void()> job) {
+        std::lock_guard<std::mutex> lock(m_mutex);
+        m_queue.push_back(std::move(job));
+        ++m_pending;
+        if (!m_thread.joinable())
+            m_thread = std::thread([this] { run(); });
+        m_wake.notify_all();
+    }
+
+    void waitIdle() {
+        std::unique_lock<std::mutex> lock(m_mutex);
+        m_idle.wait(lock, [this] { return m_pending == 0; });
+    }
+
+    ~Worker() {
+        {
+            std::lock_guard<std::mutex> lock(m_mutex);
+            m_quit = true;
+            m_wake.notify_all();
+        }
+        if (m_thread.joinable())
+            m_thread.join();
+    }
+
+private:
+    void run() {
+        std::unique_lock<std::mutex> lock(m_mutex);
+        for (;;) {
+            m_wake.wait(lock, [this] { return m_quit || !m_queue.empty(); });
+            if (m_queue.empty())
+                return;
+            std::function<void()> job = std::move(m_queue.front());
+            m_queue.pop_front();
+            lock.unlock();
+            job();
+            lock.lock();
+            if (--m_pending == 0)
+                m_idle.notify_all();
+        }
+    }
+
+    std::mutex m_mutex;
+    std::condition_variable m_wake;
+    std::condition_variable m_idle;
+    std::deque<std::function<void()>> m_queue;
+    int m_pending = 0;
+    bool m_quit = false;
+    std::thread m_thread;
+};
+
+// The track a rear player of a single-file recording must show, chosen as soon as its
+// media announces the track: before the first picture, the decoder and its video output
+// are made for that track. Switching later makes libvlc 3.0 open a second output that
+// cannot use the player's window and pops up a window of its own.
+struct TrackChoice {
+    libvlc_media_player_t* player;
+    int index;
+};
+
+TrackChoice g_trackChoices[3];
+
+void chooseTrack(TrackChoice* choice) {
+    if (choice->index < 0)
+        return;
+    libvlc_track_description_t* list = libvlc_video_get_track_description(choice->player);
+    int seen = 0;
+    int id = -1;
+    for (libvlc_track_description_t* it = list; it != nullptr; it = it->p_next) {
+        if (it->i_id >= 0 && seen++ == choice->index) {
+            id = it->i_id;
+            break;
+        }
+    }
+    libvlc_track_description_list_release(list);
+    if (id >= 0 && libvlc_video_get_track(choice->player) != id)
+        libvlc_video_set_track(choice->player, id);
+}
+
+void onTrackAdded(const libvlc_event_t* event, void* data) {
+    if (event->u.media_player_es_changed.i_type != libvlc_track_video ||
+        event->u.media_player_es_changed.i_id < 0)
+        return;
+    auto* choice = static_cast<TrackChoice*>(data);
+    Worker::instance().post([choice] { chooseTrack(choice); });
+}
+
+// 4.x stops a player whose media played to its end; 3.0 parks it in Ended.
+void onEndReached(const libvlc_event_t* event, void*) {
+    auto* player = static_cast<libvlc_media_player_t*>(event->p_obj);
+    Worker::instance().post([player] { stopNow(player); });
+}
+
+} // namespace
+
+int VlcCompat::attach(libvlc_media_player_t* player, libvlc_event_type_t type,
+                      libvlc_callback_t callback, void* data) {
+    Registry& reg = registry();
+    if (type == kStopping) {
+        std::lock_guard<std::mutex> lock(reg.mutex);
+        reg.stopping[player].push_back({callback, data});
+        return 0;
+    }
+    libvlc_event_manager_t* manager = libvlc_media_player_event_manager(player);
+    if (type == libvlc_MediaPlayerStopped) {
+        std::lock_guard<std::mutex> lock(reg.mutex);
+        reg.stopped[player].push_back({callback, data});
+        if (reg.endWatchers[player]++ == 0)
+            libvlc_event_attach(manager, libvlc_MediaPlayerEndReached, onEndReached, nullptr);
+    }
+    return libvlc_event_attach(manager, type, callback, data);
+}
+
+void VlcCompat::detach(libvlc_media_player_t* player, libvlc_event_type_t type,
+                       libvlc_callback_t callback, void* data) {
+    Registry& reg = registry();
+    const auto remove = [&](std::map<libvlc_media_player_t*, std::vector<Handler>>& map) {
+        std::lock_guard<std::mutex> lock(reg.mutex);
+        auto& list = map[player];
+        for (auto it = list.begin(); it != list.end(); ++it) {
+            if (it->callback == callback && it->data == data) {
+                list.erase(it);
+                return true;
+            }
+        }
+        return false;
+    };
+    if (type == kStopping) {
+        remove(reg.stopping);
+        return;
+    }
+    libvlc_event_manager_t* manager = libvlc_media_player_event_manager(player);
+    if (type == libvlc_MediaPlayerStopped && remove(reg.stopped)) {
+        std::lock_guard<std::mutex> lock(reg.mutex);
+        if (--reg.endWatchers[player] == 0)
+            libvlc_event_detach(manager, libvlc_MediaPlayerEndReached, onEndReached, nullptr);
+    }
+    libvlc_event_detach(manager, type, callback, data);
+}
+
+void VlcCompat::stopAsync(libvlc_media_player_t* player) {
+    Worker::instance().post([player] { stopNow(player); });
+}
+
+void VlcCompat::waitForStops() {
+    Worker::instance().waitIdle();
+}
+
+void VlcCompat::setTime(libvlc_media_player_t* player, int64_t ms, bool) {
+    libvlc_media_player_set_time(player, ms);
+}
+
+int VlcCompat::selectVideoTrack(libvlc_media_player_t* player, int index) {
+    // 3.0 selects tracks by their elementary-stream id; find the index-th real track.
+    libvlc_track_description_t* list = libvlc_video_get_track_description(player);
+    int id = -1;
+    int seen = 0;
+    for (libvlc_track_description_t* it = list; it != nullptr; it = it->p_next) {
+        if (it->i_id < 0) // "Disable"
+            continue;
+        if (seen++ == index) {
+            id = it->i_id;
+            break;
+        }
+    }
+    libvlc_track_description_list_release(list);
+    if (id < 0)
+        return -1;
+    if (libvlc_video_get_track(player) == id)
+        return 0;
+    return libvlc_video_set_track(player, id);
+}
+
+bool VlcCompat::hasAudioDevice(libvlc_media_player_t* player) {
+    char* device = libvlc_audio_output_device_get(player);
+    const bool set = device != nullptr && device[0] != '\0';
+    std::free(device);
+    return set;
+}
+
+void VlcCompat::resetAudioDevice(libvlc_media_player_t* player) {
+    libvlc_audio_output_device_set(player, nullptr, nullptr);
+}
+
+#endif
+
+bool VlcCompat::isTrackListBookkeeping(const libvlc_event_t* event) {
+#if LIBVLC_VERSION_MAJOR >= 4
+    (void)event;
+    return false;
+#else
+    return event->u.media_player_es_changed.i_id < 0;
+#endif
+}
+
+void VlcCompat::setSingleFileMedia(libvlc_instance_t* instance, libvlc_media_player_t** players,
+                                   int count, const char* path) {
+#if LIBVLC_VERSION_MAJOR >= 4
+    libvlc_media_t* media = libvlc_media_new_path(path);
+    libvlc_media_player_set_media(players[0], media);
+    if (media != nullptr)
+        libvlc_media_add_option(media, "no-audio");
+    for (int i = 1; i < count && i < 3; ++i)
+        libvlc_media_player_set_media(players[i], media);
+    if (media != nullptr)
+        libvlc_media_release(media);
+    (void)instance;
+#else
+    // Players that share one media disturb each other's track choice in 3.0: each player
+    // gets its own media of the file.
+    TrackChoice* choices = g_trackChoices;
+    for (int i = 0; i < count && i < 3; ++i) {
+        libvlc_media_t* media = libvlc_media_new_path(instance, path);
+        if (media == nullptr)
+            continue;
+        if (i > 0)
+            libvlc_media_add_option(media, "no-audio");
+        libvlc_media_player_set_media(players[i], media);
+        libvlc_media_release(media);
+        libvlc_event_manager_t* manager = libvlc_media_player_event_manager(players[i]);
+        if (choices[i].player == nullptr && i > 0)
+            libvlc_event_attach(manager, libvlc_MediaPlayerESAdded, onTrackAdded, &choices[i]);
+        choices[i] = {players[i], i};
+    }
+#endif
+}
+
+void VlcCompat::forgetTrackChoices() {
+#if LIBVLC_VERSION_MAJOR < 4
+    for (TrackChoice& choice : g_trackChoices)
+        choice.index = -1;
+#endif
+}
+
+bool VlcCompat::tracksChosenWithMedia() {
+    return LIBVLC_VERSION_MAJOR < 4;
+}
+
+void VlcCompat::setWindow(libvlc_media_player_t* player, uintptr_t window) {
+#if defined(_WIN32)
+    libvlc_media_player_set_hwnd(player, reinterpret_cast<void*>(window));
+#else
+    libvlc_media_player_set_xwindow(player, static_cast<uint32_t>(window));
+#endif
+}
+
+uintptr_t VlcCompat::window(libvlc_media_player_t* player) {
+#if defined(_WIN32)
+    return reinterpret_cast<uintptr_t>(libvlc_media_player_get_hwnd(player));
+#else
+    return libvlc_media_player_get_xwindow(player);
+#endif
+}

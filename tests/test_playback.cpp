@@ -1,0 +1,273 @@
+// The video engine and the channel coordinator on real libvlc, playing generated
+// recordings into real windows: state sequences, channel mapping checked on the pictures,
+// moves, steps, speed, end of file and a file that disappears.
+#include "AppGlobals.h"
+#include "PlayerInterface.h"
+#include "VLCComponent.h"
+
+#include <QFile>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QWidget>
+#include <QtTest>
+
+namespace {
+
+const QString kMedia = QStringLiteral(PLAYBACK_MEDIA);
+const QString kSplit = kMedia + "/20240301_090000_INF_1.mp4";  // red, green, blue; 5 s
+const QString kGap = kMedia + "/20240301_091000_EVT_1.mp4";    // _1 red and _3 blue; 4 s
+const QString kSingle = kMedia + "/20240301_092000_USR_4.mp4"; // 3 video tracks; 4 s
+
+enum class Colour { Red, Green, Blue, Other };
+
+// The colour that fills a channel's picture (the frame counter sits in a corner).
+Colour colourOf(const QImage& image) {
+    if (image.isNull())
+        return Colour::Other;
+    const QRgb pixel = image.pixel(image.width() * 3 / 4, image.height() * 3 / 4);
+    const int r = qRed(pixel), g = qGreen(pixel), b = qBlue(pixel);
+    if (r > 150 && g < 100 && b < 100)
+        return Colour::Red;
+    if (g > 150 && r < 100 && b < 100)
+        return Colour::Green;
+    if (b > 150 && r < 100 && g < 100)
+        return Colour::Blue;
+    return Colour::Other;
+}
+
+} // namespace
+
+class TestPlayback : public QObject {
+    Q_OBJECT
+
+    QTemporaryDir m_data;
+    QWidget* m_window = nullptr;
+    QWidget* m_video[3] = {};
+    PlayerInterface* m_player = nullptr;
+
+    VLCComponent* engine() const { return m_player->engine(); }
+
+    // Opens a recording through the coordinator and waits for its first picture.
+    void open(const QString& path) {
+        QSignalSpy complete(m_player, &PlayerInterface::onSendSetPlayButton);
+        PlayerInterface::currentFile = path;
+        m_player->checkFileReady();
+        QVERIFY(complete.wait(15000));
+        QCOMPARE(VLCComponent::playerState, int(VLCComponent::Playing));
+        QCOMPARE(PlayerInterface::playStatus, int(PlayerInterface::PlayRunning));
+    }
+
+    void stopAndWait() {
+        if (PlayerInterface::playStatus == PlayerInterface::PlayRunning ||
+            PlayerInterface::playStatus == PlayerInterface::PlayPaused)
+            m_player->onClickStop(false);
+        QTRY_COMPARE_WITH_TIMEOUT(VLCComponent::playerState, int(VLCComponent::Stopped), 10000);
+        QTest::qWait(50); // the queued follow-ups of the stop
+    }
+
+    Colour snapshotColour(int channel) { return colourOf(m_player->getScreenImage(channel)); }
+
+private slots:
+    void initTestCase() {
+        QVERIFY(QFile::exists(kSplit));
+        AppGlobals::dataFolder = m_data.path();
+        m_window = new QWidget;
+        m_window->resize(1000, 200);
+        for (int i = 0; i < 3; ++i) {
+            // Each video widget sits in its own scene, as in the main window.
+            auto* scene = new QWidget(m_window);
+            scene->setObjectName(QString("scene%1").arg(i));
+            scene->setGeometry(i * 330, 0, 320, 180);
+            m_video[i] = new QWidget(scene);
+            m_video[i]->setGeometry(0, 0, 320, 180);
+            m_video[i]->setAttribute(Qt::WA_NativeWindow);
+        }
+        m_window->show();
+        QVERIFY(QTest::qWaitForWindowExposed(m_window));
+        m_player = new PlayerInterface(m_window);
+        m_player->setMainScreen(m_video[0]);
+        m_player->setSub1Screen(m_video[1]);
+        m_player->setSub2Screen(m_video[2]);
+        QCOMPARE(VLCComponent::playerState, int(VLCComponent::Created));
+    }
+
+    void cleanupTestCase() {
+        stopAndWait();
+        delete m_window;
+    }
+
+    void cleanup() { stopAndWait(); }
+
+    void splitRecordingPlaysPausesAndStops() {
+        QSignalSpy logo(engine(), &VLCComponent::send_setLogo);
+        QSignalSpy block(engine(), &VLCComponent::send_setBlockEvent);
+        open(kSplit);
+        QCOMPARE(engine()->GetChannelCount(), 3);
+        QCOMPARE(PlayerInterface::playChannelCount, 3);
+        QVERIFY(!logo.isEmpty());
+        QCOMPARE(logo.last().at(0).toBool(), false); // picture up, logo away
+        QTRY_VERIFY_WITH_TIMEOUT(!block.isEmpty() && !block.last().at(0).toBool(), 5000);
+        QTRY_VERIFY(m_video[0]->isVisible() && m_video[2]->isVisible());
+
+        // Each channel shows its own camera.
+        QTRY_COMPARE_WITH_TIMEOUT(snapshotColour(0), Colour::Red, 3000);
+        QTRY_COMPARE_WITH_TIMEOUT(snapshotColour(1), Colour::Green, 3000);
+        QTRY_COMPARE_WITH_TIMEOUT(snapshotColour(2), Colour::Blue, 3000);
+
+        m_player->onPause();
+        QCOMPARE(VLCComponent::playerState, int(VLCComponent::Paused));
+        QCOMPARE(PlayerInterface::playStatus, int(PlayerInterface::PlayPaused));
+        QTest::qWait(400);
+        const double pausedAt = engine()->GetCurrentPos();
+        QTest::qWait(600);
+        QCOMPARE(engine()->GetCurrentPos(), pausedAt);
+        m_player->onPlay();
+        QCOMPARE(VLCComponent::playerState, int(VLCComponent::Playing));
+        QTRY_VERIFY_WITH_TIMEOUT(engine()->GetCurrentPos() > pausedAt, 3000);
+
+        // A click on stop goes through Stopping to Stopped and shows the logo.
+        QSignalSpy clear(m_player, &PlayerInterface::onSendClear);
+        logo.clear();
+        m_player->onClickStop(true);
+        QCOMPARE(VLCComponent::playerState, int(VLCComponent::StopRequested));
+        QCOMPARE(VLCComponent::stopReason, int(VLCComponent::StopShowLogo));
+        QCOMPARE(clear.count(), 1);
+        QCOMPARE(PlayerInterface::playStatus, int(PlayerInterface::PlayIdle));
+        QTRY_COMPARE_WITH_TIMEOUT(VLCComponent::playerState, int(VLCComponent::Stopped), 10000);
+        QTRY_VERIFY(logo.count() >= 2); // at the request and when stopped
+        QVERIFY(logo.last().at(0).toBool());
+
+        // Stopping an idle player does nothing.
+        m_player->onClickStop(true);
+        m_player->onPause();
+        m_player->onStop(3);
+        QCOMPARE(VLCComponent::playerState, int(VLCComponent::Stopped));
+    }
+
+    void missingRearFileIsSkipped() {
+        open(kGap);
+        QCOMPARE(engine()->GetChannelCount(), 2);
+        QTRY_COMPARE_WITH_TIMEOUT(snapshotColour(0), Colour::Red, 3000);
+        QTRY_COMPARE_WITH_TIMEOUT(snapshotColour(1), Colour::Blue, 3000); // "_3", in player 1
+    }
+
+    void singleFileShowsOneTrackPerPlayer() {
+        open(kSingle);
+        QCOMPARE(engine()->GetChannelCount(), 3);
+        // Known fault on libvlc 3.0: a rear player switches to its track after its decoder
+        // has started, and libvlc then opens a second video output in a window of its own
+        // instead of the scene. The players do not all show their own track yet.
+        QTest::qWait(1500);
+        const Colour front = snapshotColour(0), rear1 = snapshotColour(1),
+                     rear2 = snapshotColour(2);
+        QEXPECT_FAIL("", "track switch of rear players on libvlc 3.0", Continue);
+        QVERIFY(front == Colour::Red && rear1 == Colour::Green && rear2 == Colour::Blue);
+        QVERIFY(front != Colour::Other && rear1 != Colour::Other && rear2 != Colour::Other);
+    }
+
+    void fiveSecondMovesNearBothEnds() {
+        open(kSplit);
+        QTest::qWait(500);
+        PlayerInterface::currentTime = engine()->GetCurrentPos();
+        // Backward in the first five seconds: to the start, still playing.
+        m_player->on5sMove(false);
+        QCOMPARE(PlayerInterface::currentTime, 0.0);
+        QCOMPARE(PlayerInterface::playStatus, int(PlayerInterface::PlayRunning));
+        QTRY_VERIFY_WITH_TIMEOUT(engine()->GetCurrentPos() < 400, 2000);
+
+        // Forward less than five seconds before the end: to the end, marked paused.
+        m_player->on5sMove(true);
+        QCOMPARE(PlayerInterface::currentTime, PlayerInterface::totalTime);
+        QCOMPARE(VLCComponent::playerState, int(VLCComponent::Paused));
+        QCOMPARE(PlayerInterface::playStatus, int(PlayerInterface::PlayPaused));
+
+        // Backward at 0 asks for the previous recording.
+        QSignalSpy previous(m_player, &PlayerInterface::onSendPlayPreviusFile);
+        PlayerInterface::currentTime = 0;
+        m_player->on5sMove(false);
+        QVERIFY(previous.wait(10000));
+        QCOMPARE(VLCComponent::stopReason, int(VLCComponent::StopGoBack));
+        QCOMPARE(PlayerInterface::playStatus, int(PlayerInterface::PlayIdle));
+    }
+
+    void framesStepWhilePaused() {
+        open(kSplit);
+        QTest::qWait(1200);
+        m_player->onPause();
+        QTest::qWait(300);
+        PlayerInterface::currentTime = engine()->GetCurrentPos();
+        const QImage before = m_player->getScreenImage(0);
+        QVERIFY(!before.isNull());
+        for (int i = 0; i < 3; ++i) {
+            m_player->onFrameMove(true);
+            QTest::qWait(100);
+        }
+        QCOMPARE(VLCComponent::playerState, int(VLCComponent::Paused));
+        // The frame counter burned into the picture has moved on; the picture is still.
+        const QImage stepped = m_player->getScreenImage(0);
+        QVERIFY(!stepped.isNull());
+        QVERIFY(stepped != before);
+        QTest::qWait(300);
+        QCOMPARE(m_player->getScreenImage(0), stepped);
+
+        // A step back seeks to 800 ms after the last time shown.
+        PlayerInterface::currentTime = 1000;
+        m_player->onFrameMove(false);
+        QTRY_VERIFY_WITH_TIMEOUT(qAbs(engine()->GetCurrentPos() - 1800) < 300, 3000);
+        QCOMPARE(PlayerInterface::playStatus, int(PlayerInterface::PlayPaused));
+
+        // Steps while playing do nothing.
+        m_player->onPlay();
+        const double playing = engine()->GetCurrentPos();
+        m_player->onFrameMove(false);
+        QVERIFY(engine()->GetCurrentPos() >= playing);
+    }
+
+    void doubleSpeedPlaysFaster() {
+        open(kSplit);
+        m_player->onControlSpeed(2.0);
+        QTest::qWait(400);
+        const double start = engine()->GetCurrentPos();
+        QTest::qWait(1500);
+        const double advanced = engine()->GetCurrentPos() - start;
+        // 1.5 s at double speed; the player's clock moves in steps of about 250 ms.
+        QVERIFY2(advanced > 2300, qPrintable(QString::number(advanced)));
+        m_player->onControlSpeed(1.0);
+    }
+
+    void playsToTheEndThenAsksForTheNext() {
+        QSignalSpy next(m_player, &PlayerInterface::onSendPlayNextFile);
+        open(kGap);
+        QVERIFY(next.wait(15000));
+        QCOMPARE(next.count(), 1);
+        QCOMPARE(VLCComponent::playerState, int(VLCComponent::Stopped));
+        QCOMPARE(PlayerInterface::playStatus, int(PlayerInterface::PlayIdle));
+        QCOMPARE(PlayerInterface::totalTime, 0.0);
+    }
+
+    void openingAnotherFileWhilePlaying() {
+        open(kSplit);
+        QSignalSpy complete(m_player, &PlayerInterface::onSendSetPlayButton);
+        PlayerInterface::currentFile = kGap;
+        m_player->checkFileReady();
+        QVERIFY(complete.wait(15000));
+        QCOMPARE(engine()->GetChannelCount(), 2);
+        QTRY_COMPARE_WITH_TIMEOUT(snapshotColour(1), Colour::Blue, 3000);
+    }
+
+    void removedFileStopsAndClearsTheList() {
+        const QString copy = m_data.path() + "/20240301_090000_INF_1.mp4";
+        QVERIFY(QFile::copy(kSplit, copy));
+        open(copy);
+        QSignalSpy allDelete(m_player, &PlayerInterface::onSendFileAllDelete);
+        QVERIFY(QFile::remove(copy));
+        QVERIFY(allDelete.wait(3000)); // the 500 ms check
+        QCOMPARE(PlayerInterface::playStatus, int(PlayerInterface::PlayStopped));
+        // The list then stops the engine for a removed file.
+        engine()->Stop(VLCComponent::StopFileRemoved);
+        QTRY_COMPARE_WITH_TIMEOUT(VLCComponent::playerState, int(VLCComponent::Stopped), 10000);
+    }
+};
+
+QTEST_MAIN(TestPlayback)
+#include "test_playback.moc"
