@@ -2,15 +2,24 @@
 
 #include "AgreementView.h"
 #include "AppGlobals.h"
+#include "LanguageView.h"
+#include "LeftSideView.h"
+#include "PlayerInterface.h"
+#include "RightSideView.h"
 #include "StatusLog.h"
-#include "UiApplier.h"
-#include "UiDescription.h"
+#include "TavShortcutTable.h"
+#include "TavWidget.h"
+#include "TopBar.h"
+#include "WaitPlayLogo.h"
 
 #include <QDir>
 #include <QFile>
 #include <QGuiApplication>
+#include <QKeyEvent>
+#include <QPushButton>
 #include <QScreen>
 #include <QSettings>
+#include <QStackedWidget>
 
 #include <cstdlib>
 
@@ -33,6 +42,7 @@ MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent) {
     logInfo("Start to set UI");
     setAcceptDrops(true);
     setupUi();
+    connectViews();
 
     resize(kInitialWidth, kInitialHeight);
     if (const QScreen* screen = QGuiApplication::primaryScreen()) {
@@ -40,6 +50,7 @@ MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent) {
         move(screenRect.x() + (screenRect.width() - kInitialWidth) / 2,
              screenRect.y() + (screenRect.height() - kInitialHeight) / 2);
     }
+    onShowFilelist();
     onUpdateMonitorSize(true);
     logDebug("create mainWindow success");
 }
@@ -52,8 +63,11 @@ MainWindow::~MainWindow() {
     removeDataFolderLeftovers();
     logInfo("Destruct complete!");
 
-    delete m_centralWidget;
-    m_centralWidget = nullptr;
+    // The coordinator stops its engine before the scenes it draws into go away.
+    delete m_player;
+    m_player = nullptr;
+    delete m_central;
+    m_central = nullptr;
 
     logInfo("[MainWindow]: Delete log File...");
     const QString log = AppGlobals::statusLogPath();
@@ -93,24 +107,196 @@ void MainWindow::onSetNotSaveSetting() {
     m_saveSettings = false;
 }
 
+bool MainWindow::enabled(const char* entry) const {
+    return m_central != nullptr && m_central->isEnabledChild(QLatin1String(entry));
+}
+
 void MainWindow::setupUi() {
-    UiDescription ui;
-    ui.open(QStringLiteral("MainWindow"));
-    m_centralWidget = new QWidget(this);
-    const UiItem central = ui.item("centralWidget");
-    UiApplier::apply(m_centralWidget, "CentralWidget", central,
-                     UiApplier::panelStyleSheet(central, ui.imageFolder()));
-    setCentralWidget(m_centralWidget);
+    m_central = new TavWidget("MainWindow", this);
+    m_central->addChild(m_central, "centralWidget", TavWidget::Style::Panel);
+    m_central->setObjectName("CentralWidget");
+    setCentralWidget(m_central);
+
+    m_leftSide = new LeftSideView(m_central);
+    m_central->addChild(m_leftSide, "leftSideView", TavWidget::Style::None);
+    m_rightSide = new RightSideView(m_central);
+    m_central->addChild(m_rightSide, "rightSideView", TavWidget::Style::None);
+    m_topBar = new TopBar(m_central);
+    m_central->addChild(m_topBar, "Topbar", TavWidget::Style::None);
+    m_topBar->setObjectName("topBar");
+    m_shortcuts = new TavShortcutTable(m_central);
+    m_central->addChild(m_shortcuts, "shortcutTable", TavWidget::Style::None);
+
+    m_fileListButton = new QPushButton(m_central);
+    m_central->addChild(m_fileListButton, "bFilelist", TavWidget::Style::Button);
+    m_fileListButton->setCheckable(true);
+    m_fileListButton->setFocusPolicy(Qt::NoFocus);
+
+    m_stack = new QStackedWidget(m_central);
+    m_central->addChild(m_stack, "StackedWidget", TavWidget::Style::None);
+    m_logo = new WaitPlayLogo(m_stack);
+    m_stack->addWidget(m_logo);
+    m_logo->setObjectName("WaitPlayLogo");
+
+    m_player = new PlayerInterface(this);
+
+    m_central->retranslate();
     QMetaObject::connectSlotsByName(this);
 }
+
+void MainWindow::connectViews() {
+    connect(m_player, &PlayerInterface::onSendLogoSet, this, &MainWindow::onShowLogo);
+    connect(m_player, &PlayerInterface::onSetBlockEvent, this, &MainWindow::onBlockEvent);
+
+    if (enabled("Topbar")) {
+        connect(m_topBar, &TopBar::onClickMaximized, this, &MainWindow::onShowMaximized);
+        connect(m_topBar, &TopBar::onClickMinimized, this, &MainWindow::onShowMinimized);
+        connect(m_topBar, &TopBar::onClick_bFullScreen, this, &MainWindow::onRecvFullScreen);
+        connect(m_topBar, &TopBar::onClickAlwaysViewTop, this, &MainWindow::onFixedTopScreen);
+        connect(m_topBar, &TopBar::onSendUpdate, this, &MainWindow::onUpdateMonitorSize);
+        connect(m_topBar, &TopBar::onClickClose, this, &QWidget::close);
+        connect(this, &MainWindow::onSendAlwaysTopUiChange, m_topBar, &TopBar::onChangeAlwaysTopUi);
+        connect(m_player, &PlayerInterface::onSetPlayData, m_topBar, &TopBar::setFileName);
+        connect(m_player, &PlayerInterface::onSendClear, m_topBar, &TopBar::unsetFileName);
+    }
+    if (enabled("shortcutTable")) {
+        connect(m_shortcuts, &TavShortcutTable::onSendSignalLanguage, this,
+                &MainWindow::openLangaugeDlg);
+        connect(this, &MainWindow::onSendChangeLanguage, m_shortcuts,
+                &TavShortcutTable::onChangeToolTipLanguage);
+    }
+    if (enabled("bFilelist"))
+        connect(m_fileListButton, &QPushButton::clicked, this, &MainWindow::onRaiseFilelist);
+    connect(this, &MainWindow::onSendChangeLanguage, this, &MainWindow::onChangeTextByLanguage);
+}
+
+// ---- Window state ----
 
 void MainWindow::onUpdateMonitorSize(bool) {
     logDebug("MainWindow::onUpdateMonitorSize");
     if (const QScreen* screen = QGuiApplication::primaryScreen()) {
         m_screenSize = screen->size();
         m_availableGeometry = screen->availableGeometry();
+        m_availableSize = screen->availableSize();
     }
 }
+
+void MainWindow::onShowMaximized() {
+    logDebug("MainWindow::onShowMaximized");
+    if (isFullScreen())
+        return;
+    if (isMaximized())
+        showNormal();
+    else
+        showMaximized();
+}
+
+void MainWindow::onShowMinimized() {
+    logDebug("MainWindow::onShowMinimized");
+    showMinimized();
+}
+
+void MainWindow::onRecvFullScreen() {
+    logDebug("MainWindow::onRecvFullScreen");
+    if (isFullScreen()) {
+        if (m_maximizedBeforeFullScreen)
+            showMaximized();
+        else {
+            showNormal();
+            if (m_normalGeometry.isValid())
+                setGeometry(m_normalGeometry);
+        }
+        return;
+    }
+    m_maximizedBeforeFullScreen = isMaximized();
+    m_normalGeometry = geometry();
+    showFullScreen();
+}
+
+void MainWindow::onFixedTopScreen() {
+    logDebug("MainWindow::onFixedTopScreen");
+    const bool onTop = !(windowFlags() & Qt::WindowStaysOnTopHint);
+    setWindowFlag(Qt::WindowStaysOnTopHint, onTop);
+    show(); // changing the flags hides a top-level window
+    emit onSendAlwaysTopUiChange(onTop ? 1 : 0);
+}
+
+void MainWindow::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::WindowStateChange && m_topBar != nullptr)
+        m_topBar->onWindowStateChanged(windowState());
+}
+
+// ---- Views ----
+
+void MainWindow::onShowLogo(bool show) {
+    logDebug("MainWindow::onShowLogo");
+    if (show)
+        m_stack->setCurrentWidget(m_logo);
+}
+
+void MainWindow::onBlockEvent(bool block) {
+    logDebug("MainWindow::onBlockEvent");
+    m_blockEvent = block;
+    emit onSendBlockEvent(block);
+}
+
+void MainWindow::onShowFilelist() {
+    logDebug("MainWindow::onShowFilelist");
+    m_fileListButton->setChecked(true);
+}
+
+void MainWindow::onRaiseFilelist() {
+    logDebug("MainWindow::onRaiseFilelist");
+    onShowFilelist();
+}
+
+void MainWindow::keyPressEvent(QKeyEvent* event) {
+    if (m_blockEvent) {
+        event->ignore();
+        return;
+    }
+    switch (event->key()) {
+    case Qt::Key_F11:
+    case Qt::Key_F:
+        onRecvFullScreen();
+        return;
+    case Qt::Key_Escape:
+        if (isFullScreen()) {
+            onRecvFullScreen();
+            return;
+        }
+        break;
+    default:
+        break;
+    }
+    QMainWindow::keyPressEvent(event);
+}
+
+// ---- Language ----
+
+void MainWindow::openLangaugeDlg() {
+    logDebug("MainWindow::openLangaugeDlg");
+    LanguageView dialog(this);
+    connect(&dialog, &LanguageView::onSendChangeLanguage, this, &MainWindow::onSendChangeLanguage);
+    connect(&dialog, &QDialog::finished, this, &MainWindow::onFinishedDlg);
+    dialog.move(geometry().center() - dialog.rect().center());
+    dialog.exec();
+}
+
+void MainWindow::onFinishedDlg() {
+    logDebug("MainWindow::onFinishedDlg");
+}
+
+void MainWindow::onChangeTextByLanguage() {
+    logDebug("MainWindow::onChangeTextByLanguage");
+    const QList<TavWidget*> views = m_central->findChildren<TavWidget*>();
+    m_central->retranslate();
+    for (TavWidget* view : views)
+        view->retranslate();
+}
+
+// ---- End ----
 
 void MainWindow::saveSettings() {
     QSettings& settings = *AppGlobals::settings;
@@ -129,7 +315,9 @@ void MainWindow::saveSettings() {
 }
 
 void MainWindow::removeDataFolderLeftovers() {
-    for (const char* folder : {"/Thumbs", "/snapshot", "/CONFIG"}) {
+    // The snapshot folder is spelled two ways by different views; on a case-sensitive file
+    // system they are two folders.
+    for (const char* folder : {"/Thumbs", "/snapshot", "/Snapshot", "/CONFIG"}) {
         QDir dir(AppGlobals::dataFolder + QLatin1String(folder));
         if (dir.exists())
             dir.removeRecursively();

@@ -1,12 +1,23 @@
 #pragma once
 
 #include <QMainWindow>
+#include <QRect>
+#include <QSize>
 
-class QWidget;
+class LeftSideView;
+class PlayerInterface;
+class QPushButton;
+class QStackedWidget;
+class RightSideView;
+class TavShortcutTable;
+class TavWidget;
+class TopBar;
+class WaitPlayLogo;
 
 // The one top-level window. It checks the privacy agreement before anything is shown,
 // builds its children from the "MainWindow" description, wires the views to each other,
-// and at the end saves the settings and cleans the data folder.
+// and at the end saves the settings and cleans the data folder. Views never call each
+// other; every route between them is made in connectViews().
 class MainWindow : public QMainWindow {
     Q_OBJECT
 public:
@@ -20,20 +31,59 @@ public:
     // crash-report flags from it. Empty and unknown values do not.
     static bool acceptAgreementValue(const QString& value);
 
+    PlayerInterface* player() const { return m_player; }
+
+signals:
+    void onSendAlwaysTopUiChange(int state);
+    void onSendChangeLanguage();
+    void onSendBlockEvent(bool block);
+
 public slots:
     void onAgreeDlgFinished(int result);
     void onSetNotSaveSetting();
     void onUpdateMonitorSize(bool update = true);
+    void onShowMaximized();
+    void onShowMinimized();
+    void onRecvFullScreen();
+    void onFixedTopScreen();
+    void onShowLogo(bool show);
+    void onBlockEvent(bool block);
+    void onShowFilelist();
+    void onRaiseFilelist();
+    void openLangaugeDlg();
+    void onFinishedDlg();
+    void onChangeTextByLanguage();
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
     void checkAgreement();
     void setupUi();
+    void connectViews();
     void saveSettings();
     void removeDataFolderLeftovers();
+    // Connects a row of the wiring only when both ends are built and enabled.
+    bool enabled(const char* entry) const;
 
-    QWidget* m_centralWidget = nullptr;
+    TavWidget* m_central = nullptr;
+    TopBar* m_topBar = nullptr;
+    LeftSideView* m_leftSide = nullptr;
+    RightSideView* m_rightSide = nullptr;
+    TavShortcutTable* m_shortcuts = nullptr;
+    QStackedWidget* m_stack = nullptr;
+    WaitPlayLogo* m_logo = nullptr;
+    QPushButton* m_fileListButton = nullptr;
+    PlayerInterface* m_player = nullptr;
+
     bool m_agreementAccepted = false;
     bool m_saveSettings = true;
+    bool m_blockEvent = false;
     QSize m_screenSize;
     QRect m_availableGeometry;
+    QSize m_availableSize;
+    // The geometry to come back to from full screen.
+    QRect m_normalGeometry;
+    bool m_maximizedBeforeFullScreen = false;
 };

@@ -62,7 +62,9 @@ bool UiApplier::apply(QWidget* widget, const QString& entryName, const UiItem& i
     widget->setContentsMargins(item.marginLeft, item.marginTop, item.marginRight,
                                item.marginBottom);
     widget->setFont(item.font);
-    widget->setStyleSheet(styleSheet);
+    // Views that style themselves pass no sheet; theirs must stay.
+    if (!styleSheet.isEmpty())
+        widget->setStyleSheet(styleSheet);
     return true;
 }
 

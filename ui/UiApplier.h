@@ -12,7 +12,7 @@ class UiApplier {
 public:
     // Hides and disables the widget when its record is absent or not enabled and returns
     // false. Otherwise names it, places and sizes it, shows or hides it, sets its margins,
-    // font and style sheet, and returns true.
+    // font and style sheet (an empty sheet leaves the widget's own), and returns true.
     static bool apply(QWidget* widget, const QString& entryName, const UiItem& item,
                       const QString& styleSheet);
 

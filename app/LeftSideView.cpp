@@ -1,0 +1,3 @@
+#include "LeftSideView.h"
+
+LeftSideView::LeftSideView(QWidget* parent) : TavWidget("LeftSideView", parent) {}

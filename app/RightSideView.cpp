@@ -1,0 +1,3 @@
+#include "RightSideView.h"
+
+RightSideView::RightSideView(QWidget* parent) : TavWidget("RightSideView", parent) {}
