@@ -1,0 +1,36 @@
+#include "LengthReader.h"
+
+#include "RecordingName.h"
+
+#include <QElapsedTimer>
+
+LengthReader::LengthReader(const QStringList& paths, int batch,
+                           std::shared_ptr<std::atomic<bool>> cancel)
+    : m_paths(paths), m_batch(batch), m_cancel(std::move(cancel)) {
+    setAutoDelete(true);
+    // Deleted on the pool thread once run() returns; no thread's events are meant for it.
+    moveToThread(nullptr);
+}
+
+void LengthReader::run() {
+    QElapsedTimer total;
+    total.start();
+    QElapsedTimer sinceChunk;
+    sinceChunk.start();
+    QStringList chunk;
+    int first = 0;
+    for (int i = 0; i < m_paths.size(); ++i) {
+        if (m_cancel->load())
+            return;
+        chunk << RecordingName::durationText(m_paths.at(i));
+        if (sinceChunk.elapsed() >= kChunkIntervalMs) {
+            emit lengthsRead(m_batch, first, chunk);
+            first = i + 1;
+            chunk.clear();
+            sinceChunk.restart();
+        }
+    }
+    if (!chunk.isEmpty())
+        emit lengthsRead(m_batch, first, chunk);
+    emit finished(m_batch, total.elapsed());
+}

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QObject>
+#include <QRunnable>
+#include <QStringList>
+#include <QVector>
+
+#include <atomic>
+#include <memory>
+
+// Reads the lengths of a batch of recordings on a pool thread. It owns a copy of the
+// paths, touches no widget and no shared record: results travel by queued signal, in
+// chunks, each tagged with the batch it belongs to so that the list can drop the results
+// of a batch that a newer load has replaced.
+class LengthReader : public QObject, public QRunnable {
+    Q_OBJECT
+public:
+    // A chunk is sent at most this often, so that 10,000 lengths do not flood the GUI thread.
+    static constexpr int kChunkIntervalMs = 100;
+
+    LengthReader(const QStringList& paths, int batch, std::shared_ptr<std::atomic<bool>> cancel);
+
+    void run() override;
+
+signals:
+    // texts[i] is the length of the recording at index first + i.
+    void lengthsRead(int batch, int first, const QStringList& texts);
+    void finished(int batch, qint64 elapsedMs);
+
+private:
+    QStringList m_paths;
+    int m_batch;
+    std::shared_ptr<std::atomic<bool>> m_cancel;
+};

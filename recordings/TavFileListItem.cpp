@@ -1,0 +1,855 @@
+#include "TavFileListItem.h"
+
+#include "ItemInfoThread.h"
+#include "LengthReader.h"
+#include "ListPrompt.h"
+#include "PlayerInterface.h"
+#include "RecordingName.h"
+#include "StatusLog.h"
+#include "TypeIconDelegate.h"
+#include "UiApplier.h"
+#include "UiDescription.h"
+#include "VLCComponent.h"
+
+#include <QAction>
+#include <QDir>
+#include <QDragEnterEvent>
+#include <QFile>
+#include <QFileInfo>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QMimeData>
+#include <QProgressBar>
+#include <QScrollBar>
+#include <QTimer>
+#include <QUrl>
+
+#include <algorithm>
+#include <functional>
+
+QVector<RecordingRecord> TavFileListItem::records;
+QVector<int> TavFileListItem::visibleRows;
+int TavFileListItem::currentIndex = 0;
+
+namespace {
+
+constexpr int kAllTypes = 15;
+// A reading that ends sooner than this never shows the progress bar, so short loads do not
+// flicker.
+constexpr int kProgressDelayMs = 300;
+// Scrolling asks for thumbnails once it settles, not on every pixel.
+constexpr int kThumbnailDelayMs = 150;
+
+const char* const kViewName = "TavFileListItem";
+
+} // namespace
+
+TavFileListItem::TavFileListItem(QWidget* parent)
+    : TavTableWidget(parent), m_thumbTimer(new QTimer(this)), m_progress(new QProgressBar(this)),
+      m_progressTimer(new QTimer(this)),
+      m_lengthCancel(std::make_shared<std::atomic<bool>>(false)) {
+    logInfo("[TavFileListItem]: Enter TavFileListItem class.");
+    m_lengthPool.setMaxThreadCount(1);
+    setColumnCount(ColumnCount);
+    setContextMenuPolicy(Qt::CustomContextMenu);
+    setAcceptDrops(true);
+    viewport()->setAcceptDrops(true);
+    setDragDropMode(QAbstractItemView::DropOnly);
+    setDropIndicatorShown(false);
+    setupUi();
+
+    m_thumbTimer->setSingleShot(true);
+    m_thumbTimer->setInterval(kThumbnailDelayMs);
+    m_progressTimer->setSingleShot(true);
+    m_progressTimer->setInterval(kProgressDelayMs);
+    connect(m_thumbTimer, &QTimer::timeout, this, &TavFileListItem::requestThumbnails);
+    connect(m_progressTimer, &QTimer::timeout, this, [this] { showProgress(m_reading); });
+    connect(verticalScrollBar(), &QScrollBar::valueChanged, this,
+            &TavFileListItem::scheduleThumbnails);
+    connect(this, &QWidget::customContextMenuRequested, this,
+            &TavFileListItem::fileListShowContextMenu);
+    connect(this, &TavFileListItem::onSendThreadStop, this, &TavFileListItem::stopItemInfoThread);
+    onChangeLanguage();
+}
+
+TavFileListItem::~TavFileListItem() {
+    m_lengthCancel->store(true);
+    stopItemInfoThread();
+    m_lengthPool.waitForDone();
+}
+
+void TavFileListItem::setupUi() {
+    UiDescription ui;
+    ui.open(QString::fromLatin1(kViewName));
+    applyDescription(ui, QStringLiteral("fileList"));
+    QHeaderView* header = horizontalHeader();
+    header->setSectionResizeMode(TypeColumn, QHeaderView::Fixed);
+    header->setSectionResizeMode(NameColumn, QHeaderView::Stretch);
+    header->setSectionResizeMode(LengthColumn, QHeaderView::Fixed);
+    for (auto [column, entry] :
+         {std::pair{TypeColumn, "columnType"}, std::pair{LengthColumn, "columnLength"}}) {
+        const UiItem item = ui.item(entry);
+        if (item.usable() && item.size.isValid())
+            header->resizeSection(column, item.size.width());
+    }
+    const UiItem icon = ui.item(QStringLiteral("typeIcon"));
+    m_typeDelegate = new TypeIconDelegate(icon.size.isValid() ? icon.size : QSize(16, 16), this);
+    setItemDelegateForColumn(TypeColumn, m_typeDelegate);
+
+    const UiItem progress = ui.item(QStringLiteral("loadProgress"));
+    const QString progressSheet =
+        QStringLiteral("QProgressBar{background: %1; color: %2; border: none; "
+                       "text-align: center;} QProgressBar::chunk{background: %3;}")
+            .arg(progress.color[UiItem::Default], progress.textColor[UiItem::Default],
+                 progress.color[UiItem::Select]);
+    UiApplier::apply(m_progress, QStringLiteral("loadProgress"), progress, progressSheet);
+    m_progress->hide();
+
+    const UiItem menu = ui.item(QStringLiteral("contextMenu"));
+    m_menu = new QMenu(this);
+    m_menu->setObjectName(QStringLiteral("fileListMenu"));
+    m_menu->setFont(menu.font);
+    const int itemHeight = menu.size.isValid() ? menu.size.height() : 20;
+    m_menu->setStyleSheet(
+        QStringLiteral("QMenu{background: %1; border: 1px solid %2;} "
+                       "QMenu::item{height: %3px; color: %4; background: transparent; "
+                       "font-size: %5px; font-weight: normal; padding: 0px 16px 0px 4px;} "
+                       "QMenu::item:selected{background: %6; color: %7;}")
+            .arg(menu.color[UiItem::Default], menu.border[UiItem::Default])
+            .arg(itemHeight)
+            .arg(menu.textColor[UiItem::Default])
+            .arg(menu.font.pixelSize() > 0 ? menu.font.pixelSize() : 12)
+            .arg(menu.color[UiItem::Select], menu.textColor[UiItem::Select]));
+    m_deleteAtList = m_menu->addAction(QString());
+    m_deleteAtList->setObjectName(QStringLiteral("deleteAtList"));
+    m_deleteFromDisk = m_menu->addAction(QString());
+    m_deleteFromDisk->setObjectName(QStringLiteral("deleteFromDisk"));
+    connect(m_deleteAtList, &QAction::triggered, this, &TavFileListItem::onDeleteSelectedAtList);
+    connect(m_deleteFromDisk, &QAction::triggered, this,
+            &TavFileListItem::onDeleteSelectedFromDisk);
+}
+
+void TavFileListItem::onChangeLanguage() {
+    m_deleteAtList->setText(tr("  Delete at list"));
+    m_deleteFromDisk->setText(tr("  Delete from disk"));
+    //: Shown while the lengths of newly listed recordings are read: done / total.
+    m_progress->setFormat(tr("Reading lengths %v / %m"));
+}
+
+int TavFileListItem::typeBit(const QString& letter) {
+    static const QString letters = QStringLiteral("IEPU");
+    const int index = letter.size() == 1 ? letters.indexOf(letter) : -1;
+    return index < 0 ? 0 : 1 << index;
+}
+
+// ---- Loading ----
+
+void TavFileListItem::loadPaths(const QStringList& paths) {
+    QStringList files;
+    bool folder = false;
+    for (const QString& path : paths) {
+        const QFileInfo info(path);
+        if (!info.isDir()) {
+            files << info.absoluteFilePath();
+            continue;
+        }
+        folder = true;
+        const QDir dir(info.absoluteFilePath());
+        for (const QString& name : dir.entryList(QDir::Files, QDir::Unsorted))
+            files << dir.absoluteFilePath(name);
+    }
+    // A folder replaces the list as the open-folder dialog does, so it stops what plays.
+    if (folder && (PlayerInterface::playStatus == PlayerInterface::PlayRunning ||
+                   PlayerInterface::playStatus == PlayerInterface::PlayPaused))
+        emit onSendStop(3);
+    onLoadItem(files);
+}
+
+void TavFileListItem::recvReqFileOpen() {
+    logDebug("TavFileListItem::recvReqFileOpen");
+    const QStringList paths = ListPrompt::openFiles(this, tr("Open file"), QStringLiteral("./"),
+                                                    tr("Movie file (*.avi *.mp4)"));
+    // A cancelled dialog is not an empty load: nothing to tell the user.
+    if (!paths.isEmpty())
+        onLoadItem(paths);
+}
+
+void TavFileListItem::onOpenFolderDlg() {
+    logDebug("TavFileListItem::onOpenFolderDlg");
+    if (PlayerInterface::playStatus == PlayerInterface::PlayRunning ||
+        PlayerInterface::playStatus == PlayerInterface::PlayPaused)
+        emit onSendStop(3);
+    const QString folder = ListPrompt::openFolder(this, tr("Open Folder"));
+    if (folder.isEmpty())
+        return;
+    const QDir dir(folder);
+    QStringList files;
+    for (const QString& name : dir.entryList(QDir::Files, QDir::Unsorted))
+        files << dir.absoluteFilePath(name);
+    if (!files.isEmpty())
+        onLoadItem(files);
+}
+
+void TavFileListItem::onReceiveFileList(const QStringList& paths) {
+    logInfo("[TavFileListItem]: receive files from SDCard Control Widget.");
+    resetList();
+    onLoadItem(paths);
+}
+
+void TavFileListItem::onLoadItem(const QStringList& paths) {
+    logDebug("TavFileListItem::onLoadItem");
+    if (rowCount() == 0) {
+        records.clear();
+        visibleRows.clear();
+        m_position = -1;
+    }
+    if (paths.isEmpty()) {
+        logInfo("[TavFileListItem]: no Item.");
+        ListPrompt::inform(this, tr("There is no item."));
+        return;
+    }
+    if (paths.size() == 1) {
+        const QString& path = paths.first();
+        const bool present =
+            std::any_of(records.cbegin(), records.cend(),
+                        [&](const RecordingRecord& r) { return r.filePath == path; });
+        if (present) {
+            logInfo("[TavFileListItem]: Some files were loaded already.");
+            ListPrompt::inform(this, tr("Item is exist!"));
+            return;
+        }
+        if (!RecordingName::isSupportedName(path)) {
+            logInfo("[TavFileListItem]: Unsupported Files.");
+            ListPrompt::inform(this, tr("Item format is different with our service supproted!"));
+            return;
+        }
+        RecordingRecord record = RecordingRecord::fromPath(path, rowCount());
+        record.durationText = RecordingName::durationText(path);
+        records.append(record);
+        insertRow(record.row);
+        fillRow(record.row, record);
+        rebuildVisibleRows();
+    } else {
+        QVector<RecordingRecord> batch;
+        bool rejected = false;
+        for (const QString& path : paths) {
+            if (!RecordingName::isSupportedName(path)) {
+                rejected = true;
+                continue;
+            }
+            if (!batch.isEmpty() && batch.last().filePath == path) {
+                RecordingRecord& last = batch.last();
+                if (last.suffixCount < int(last.suffixes.size()))
+                    last.suffixes[last.suffixCount++] = path.right(3);
+                continue;
+            }
+            batch.append(RecordingRecord::fromPath(path, batch.size()));
+        }
+        // Nothing usable leaves the list as it was rather than empty.
+        if (!batch.isEmpty()) {
+            std::stable_sort(batch.begin(), batch.end());
+            cancelLengthReader();
+            m_thumbRequested.clear();
+            setUpdatesEnabled(false);
+            clearContents();
+            setRowCount(batch.size());
+            for (int i = 0; i < batch.size(); ++i) {
+                batch[i].row = i;
+                fillRow(i, batch[i]);
+            }
+            setUpdatesEnabled(true);
+            records = batch;
+            rebuildVisibleRows();
+            startLengthReader();
+        }
+        if (rejected) {
+            ListPrompt::inform(this, tr("Item format is different with our service supproted!"));
+            scheduleThumbnails();
+            return;
+        }
+    }
+    scheduleThumbnails();
+    logInfo("[TavFileListItem]: Load File Complete.");
+    emit onSendRefreshFilter();
+}
+
+void TavFileListItem::fillRow(int row, const RecordingRecord& record) {
+    auto* type = new QTableWidgetItem(RecordingName::typeLabel(record.type));
+    type->setTextAlignment(Qt::AlignCenter);
+    setItem(row, TypeColumn, type);
+    auto* name = new QTableWidgetItem(record.fileName);
+    name->setTextAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    if (!record.thumbPath.isEmpty())
+        name->setToolTip(QStringLiteral("<img src=\"%1\">").arg(record.thumbPath.toHtmlEscaped()));
+    setItem(row, NameColumn, name);
+    auto* length = new QTableWidgetItem(record.durationText);
+    length->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    setItem(row, LengthColumn, length);
+    // New rows obey the filter in force at once.
+    setRowHidden(row, !rowPassesMask(row));
+}
+
+// ---- Type filter ----
+
+bool TavFileListItem::rowPassesMask(int row) const {
+    const QTableWidgetItem* type = item(row, TypeColumn);
+    const int bit = typeBit(type != nullptr ? type->text() : QString());
+    // A recording of no known type has no bit; "All Type" still shows it.
+    return bit == 0 ? m_mask == kAllTypes : (m_mask & bit) != 0;
+}
+
+void TavFileListItem::rebuildVisibleRows() {
+    visibleRows.clear();
+    for (int row = 0; row < rowCount() && row < records.size(); ++row)
+        if (!isRowHidden(row))
+            visibleRows.append(records.at(row).row);
+    syncCurrent();
+}
+
+void TavFileListItem::onSortFile(int mask) {
+    logDebug("TavFileListItem::onSortFile");
+    m_mask = mask;
+    const bool current = hasCurrent();
+    visibleRows.clear();
+    m_position = -1;
+    for (int row = 0; row < rowCount() && row < records.size(); ++row) {
+        const bool shown = rowPassesMask(row);
+        setRowHidden(row, !shown);
+        if (shown)
+            visibleRows.append(records.at(row).row);
+        if (current && row == currentIndex)
+            m_position = shown ? visibleRows.size() - 1 : -1;
+    }
+    scheduleThumbnails();
+}
+
+// ---- Current recording and stepping ----
+
+bool TavFileListItem::hasCurrent() const {
+    return !PlayerInterface::currentFile.isEmpty() && currentIndex >= 0 &&
+           currentIndex < records.size() &&
+           records.at(currentIndex).filePath == PlayerInterface::currentFile;
+}
+
+void TavFileListItem::syncCurrent() {
+    m_position = -1;
+    const QString& file = PlayerInterface::currentFile;
+    int found = -1;
+    for (int i = 0; !file.isEmpty() && i < records.size(); ++i)
+        if (records.at(i).filePath == file) {
+            found = i;
+            break;
+        }
+    currentIndex = found >= 0 ? found : 0;
+    if (found >= 0)
+        m_position = visibleRows.indexOf(records.at(found).row);
+}
+
+// With nothing current both directions start at the first shown row.
+int TavFileListItem::nextRow() const {
+    if (!hasCurrent())
+        return visibleRows.isEmpty() ? -1 : visibleRows.first();
+    for (int row : visibleRows)
+        if (row > currentIndex)
+            return row;
+    return -1;
+}
+
+int TavFileListItem::previousRow() const {
+    if (!hasCurrent())
+        return visibleRows.isEmpty() ? -1 : visibleRows.first();
+    for (auto it = visibleRows.crbegin(); it != visibleRows.crend(); ++it)
+        if (*it < currentIndex)
+            return *it;
+    return -1;
+}
+
+void TavFileListItem::playItem(int index) {
+    logInfo("[TavFileListItem]: set connect play Item with other widget...");
+    if (index < 0 || index >= records.size() || index >= rowCount()) {
+        logError("[TavFileListItem]: no record at row %d.", index);
+        Q_ASSERT_X(false, "TavFileListItem::playItem", "row out of range");
+        return;
+    }
+    currentIndex = index;
+    PlayerInterface::currentFile = records.at(index).filePath;
+    m_position = visibleRows.indexOf(records.at(index).row);
+    selectRow(index);
+    setCurrentCell(index, NameColumn, QItemSelectionModel::NoUpdate);
+    scrollToItem(item(index, NameColumn), QAbstractItemView::EnsureVisible);
+    emit onSendHideTypeList();
+    emit doubleClickedItem();
+    emit onPlayFileNow();
+    emit onSendLoadMap();
+    emit onSendUpdateMap();
+    scheduleThumbnails();
+    logInfo("Play item set complete!");
+}
+
+void TavFileListItem::onForwardItemSet() {
+    logInfo("[TavFileListItem]: change select item to forward.");
+    const int next = nextRow();
+    if (next < 0) {
+        // Playback ran to the end of the last shown row by itself: the player simply stays
+        // stopped at the logo. A message box here would greet a user who walked away.
+        logInfo("[TavFileListItem]: last item played.");
+        emit onSendClear();
+        emit onSendLogoSet(true);
+        emit onSetBlockEvent(false);
+        return;
+    }
+    playItem(next);
+}
+
+void TavFileListItem::onChangePlayItem(int direction) {
+    logInfo("[TavFileListItem]: change select item");
+    const int target = direction > 0 ? nextRow() : previousRow();
+    if (target < 0) {
+        logInfo("[TavFileListItem]: no Item.");
+        ListPrompt::inform(this, tr("There is no item."));
+        return;
+    }
+    playItem(target);
+}
+
+void TavFileListItem::onSetFirstFile() {
+    logDebug("TavFileListItem::onSetFirstFile");
+    if (visibleRows.isEmpty()) {
+        logInfo("[TavFileListItem]: no Item.");
+        ListPrompt::inform(this, tr("There is no item."));
+        return;
+    }
+    playItem(visibleRows.first());
+}
+
+int TavFileListItem::getCanPlayFileCount() {
+    return visibleRows.size();
+}
+
+QString TavFileListItem::getLoadingFileName() {
+    return m_itemInfo != nullptr ? m_itemInfo->currentPath() : QString();
+}
+
+void TavFileListItem::onBlockEvent(bool block) {
+    m_blocked = block;
+}
+
+// ---- Removal ----
+
+void TavFileListItem::resetPressState() {
+    m_controlHeld = false;
+    m_shiftHeld = false;
+    onChangeSelectionMode();
+}
+
+void TavFileListItem::resetList() {
+    emit onSendThreadStop();
+    cancelLengthReader();
+    currentIndex = 0;
+    m_position = -1;
+    clearContents();
+    setRowCount(0);
+    records.clear();
+    visibleRows.clear();
+    resetPressState();
+    m_thumbRequested.clear();
+    PlayerInterface::currentFile.clear();
+    emit onSendLogoSet(true);
+    emit onSetBlockEvent(false);
+}
+
+void TavFileListItem::onDeleteAllFileAtList() {
+    logInfo("[TavFileListItem]: delete all files at list.");
+    resetList();
+}
+
+void TavFileListItem::onRemoveFile(int row) {
+    const int visible = visibleRows.indexOf(row);
+    if (visible >= 0)
+        visibleRows.remove(visible);
+    if (row >= 0 && row < records.size())
+        records.remove(row);
+}
+
+void TavFileListItem::onRenumber() {
+    for (int i = 0; i < records.size(); ++i)
+        records[i].row = i;
+    rebuildVisibleRows();
+}
+
+void TavFileListItem::onDeleteCurrentFile() {
+    logDebug("TavFileListItem::onDeleteCurrentFile");
+    if (!hasCurrent()) {
+        logInfo("[TavFileListItem]: no Item.");
+        return;
+    }
+    emit onSendStop(3);
+    const int row = currentIndex;
+    removeRow(row);
+    onRemoveFile(row);
+    onRenumber();
+    resetPressState();
+    emit onSetBlockEvent(false);
+}
+
+QList<int> TavFileListItem::selectedRecordRows() const {
+    QList<int> rows;
+    for (const QModelIndex& index : selectionModel()->selectedRows())
+        // A range selected with Shift may span rows the filter hides; those stay.
+        if (!isRowHidden(index.row()) && index.row() < records.size())
+            rows << index.row();
+    std::sort(rows.begin(), rows.end());
+    return rows;
+}
+
+bool TavFileListItem::askToDeleteAtList() {
+    if (PlayerInterface::playStatus == PlayerInterface::PlayRunning)
+        emit onSendPause();
+    if (!ListPrompt::ask(this, tr("Do you want to delete the selected files at list?"))) {
+        logInfo("Select No");
+        return false;
+    }
+    return true;
+}
+
+void TavFileListItem::onDeleteSelectedAtList() {
+    const QList<int> rows = selectedRecordRows();
+    if (rows.isEmpty()) {
+        logInfo("No Select Items");
+        return;
+    }
+    const bool currentSelected = hasCurrent() && rows.contains(currentIndex);
+    if (!askToDeleteAtList())
+        return;
+    if (currentSelected && PlayerInterface::playStatus != PlayerInterface::PlayIdle &&
+        PlayerInterface::playStatus != PlayerInterface::PlayStopped)
+        emit onSendStop(3);
+    removeRows(rows, false);
+    emit onSetBlockEvent(false);
+}
+
+void TavFileListItem::onDeleteSelectedFromDisk() {
+    const QList<int> rows = selectedRecordRows();
+    if (rows.isEmpty()) {
+        logInfo("No Select Items");
+        return;
+    }
+    const bool currentSelected = hasCurrent() && rows.contains(currentIndex);
+    if (PlayerInterface::playStatus == PlayerInterface::PlayRunning)
+        emit onSendPause();
+    if (!ListPrompt::ask(this, tr("Do you want to delete the selected files at disk?"))) {
+        logInfo("Select No");
+        return;
+    }
+    if (m_itemInfo != nullptr && m_itemInfo->isBusy()) {
+        logInfo("[TavFileListItem] Stop Thread");
+        emit onSendThreadStop();
+    }
+    if (currentSelected && PlayerInterface::playStatus != PlayerInterface::PlayIdle) {
+        logInfo("[TavFileListItem] SendStop 4");
+        emit onSendStop(4);
+    }
+    removeRows(rows, true);
+    emit onSetBlockEvent(false);
+}
+
+void TavFileListItem::removeRows(QList<int> rows, bool fromDisk) {
+    const QString loading = getLoadingFileName();
+    bool keptLoading = false;
+    // From the bottom up, so that the rows still to go keep their numbers.
+    std::sort(rows.begin(), rows.end(), std::greater<int>());
+    for (int row : rows) {
+        const RecordingRecord record = records.at(row);
+        if (!fromDisk && !loading.isEmpty() && record.filePath == loading) {
+            keptLoading = true;
+            continue;
+        }
+        removeRow(row);
+        onRemoveFile(row);
+        if (fromDisk) {
+            // A failed delete still drops the row: the user asked for it to go.
+            if (!QFile::remove(record.filePath))
+                logWarning("[TavFileListItem]: Can not delete %s",
+                           record.filePath.toLocal8Bit().constData());
+            if (!record.thumbPath.isEmpty())
+                QFile::remove(record.thumbPath);
+        }
+    }
+    onRenumber();
+    if (keptLoading)
+        ListPrompt::inform(this, tr("This File is loading now.. Please try later"));
+}
+
+void TavFileListItem::fileListShowContextMenu(const QPoint& position) {
+    logDebug("TavFileListItem::fileListShowContextMenu");
+    if (m_blocked)
+        return;
+    m_menu->popup(viewport()->mapToGlobal(position));
+}
+
+// ---- Keyboard and mouse ----
+
+void TavFileListItem::onChangeSelectionMode() {
+    setSelectionMode(m_controlHeld || m_shiftHeld ? QAbstractItemView::ExtendedSelection
+                                                  : QAbstractItemView::SingleSelection);
+}
+
+void TavFileListItem::keyPressEvent(QKeyEvent* event) {
+    if (m_blocked) {
+        event->ignore();
+        return;
+    }
+    switch (event->key()) {
+    case Qt::Key_Control:
+        m_controlHeld = true;
+        onChangeSelectionMode();
+        break;
+    case Qt::Key_Shift:
+        m_shiftHeld = true;
+        onChangeSelectionMode();
+        break;
+    case Qt::Key_Delete:
+        onDeleteSelectedAtList();
+        return;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        // The keyboard's double click.
+        if (currentRow() >= 0 && !isRowHidden(currentRow()) &&
+            VLCComponent::playerState != VLCComponent::FileSet) {
+            emit onSendStop(1);
+            playItem(currentRow());
+        }
+        return;
+    default:
+        break;
+    }
+    TavTableWidget::keyPressEvent(event);
+}
+
+void TavFileListItem::keyReleaseEvent(QKeyEvent* event) {
+    if (!m_blocked && event->key() == Qt::Key_Control) {
+        m_controlHeld = false;
+        onChangeSelectionMode();
+    } else if (!m_blocked && event->key() == Qt::Key_Shift) {
+        m_shiftHeld = false;
+        onChangeSelectionMode();
+    }
+    TavTableWidget::keyReleaseEvent(event);
+}
+
+void TavFileListItem::focusOutEvent(QFocusEvent* event) {
+    // The release of a key held while focus left never arrives here.
+    resetPressState();
+    TavTableWidget::focusOutEvent(event);
+}
+
+void TavFileListItem::mousePressEvent(QMouseEvent* event) {
+    emit onSendHideTypeList();
+    TavTableWidget::mousePressEvent(event);
+}
+
+void TavFileListItem::mouseDoubleClickEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton || m_blocked)
+        return;
+    logDebug("TavFileListItem::mouseDoubleClickEvent");
+    if (PlayerInterface::playStatus != PlayerInterface::PlayStopped) {
+        m_controlHeld = m_shiftHeld = false;
+        onChangeSelectionMode();
+        viewport()->update();
+    }
+    const QTableWidgetItem* clicked = itemAt(event->pos());
+    // While the engine is still taking a file, a second request would overlap it.
+    if (clicked != nullptr && VLCComponent::playerState != VLCComponent::FileSet) {
+        emit onSendStop(1);
+        playItem(clicked->row());
+    }
+}
+
+void TavFileListItem::dragEnterEvent(QDragEnterEvent* event) {
+    if (event->mimeData()->hasUrls())
+        event->acceptProposedAction();
+    else
+        event->ignore();
+}
+
+void TavFileListItem::dragMoveEvent(QDragMoveEvent* event) {
+    if (event->mimeData()->hasUrls())
+        event->acceptProposedAction();
+    else
+        event->ignore();
+}
+
+void TavFileListItem::dropEvent(QDropEvent* event) {
+    logInfo("[TavFileListItem]: items are dropped in list.");
+    QStringList paths;
+    for (const QUrl& url : event->mimeData()->urls())
+        if (url.isLocalFile())
+            paths << url.toLocalFile();
+    event->acceptProposedAction();
+    // Loaded once the drop has returned: a message box inside the drop would hold the
+    // dragging application too.
+    QTimer::singleShot(0, this, [this, paths] { loadPaths(paths); });
+}
+
+void TavFileListItem::resizeEvent(QResizeEvent* event) {
+    TavTableWidget::resizeEvent(event);
+    m_progress->resize(width(), m_progress->height());
+    scheduleThumbnails();
+}
+
+// ---- Lengths ----
+
+void TavFileListItem::cancelLengthReader() {
+    m_lengthCancel->store(true);
+    m_lengthCancel = std::make_shared<std::atomic<bool>>(false);
+    ++m_batch;
+    m_reading = false;
+    m_lengthPaths.clear();
+    showProgress(false);
+}
+
+void TavFileListItem::startLengthReader() {
+    m_lengthPaths.clear();
+    for (const RecordingRecord& record : records)
+        m_lengthPaths << record.filePath;
+    m_lengthsDone = 0;
+    m_reading = true;
+    m_progress->setRange(0, m_lengthPaths.size());
+    m_progress->setValue(0);
+    m_progressTimer->start();
+    auto* reader = new LengthReader(m_lengthPaths, m_batch, m_lengthCancel);
+    connect(reader, &LengthReader::lengthsRead, this, &TavFileListItem::onLengthsRead,
+            Qt::QueuedConnection);
+    connect(reader, &LengthReader::finished, this, &TavFileListItem::onLengthsFinished,
+            Qt::QueuedConnection);
+    m_lengthPool.start(reader);
+}
+
+int TavFileListItem::recordIndexOf(const QString& path, int hint) const {
+    // Rows deleted during the reading move later records up, never down.
+    for (int i = qMin(hint, records.size() - 1); i >= 0; --i)
+        if (records.at(i).filePath == path)
+            return i;
+    return -1;
+}
+
+void TavFileListItem::onLengthsRead(int batch, int first, const QStringList& texts) {
+    if (batch != m_batch)
+        return;
+    for (int k = 0; k < texts.size() && first + k < m_lengthPaths.size(); ++k) {
+        const int index = recordIndexOf(m_lengthPaths.at(first + k), first + k);
+        if (index < 0)
+            continue;
+        records[index].durationText = texts.at(k);
+        if (QTableWidgetItem* length = item(index, LengthColumn))
+            length->setText(texts.at(k));
+    }
+    m_lengthsDone += texts.size();
+    m_progress->setValue(m_lengthsDone);
+    emit onSendReadProgress(m_lengthsDone, m_lengthPaths.size());
+}
+
+void TavFileListItem::onLengthsFinished(int batch, qint64 elapsedMs) {
+    if (batch != m_batch)
+        return;
+    logInfo("getFileTime elapsed time: %lld ms", static_cast<long long>(elapsedMs));
+    m_reading = false;
+    m_lengthPaths.clear();
+    showProgress(false);
+    emit onSendFinishReadFileTime();
+}
+
+void TavFileListItem::onFinishReadFileTime() {
+    logInfo("onFinishReadFileTime");
+    for (int i = 0; i < records.size() && i < rowCount(); ++i) {
+        QTableWidgetItem* length = item(i, LengthColumn);
+        if (length == nullptr)
+            continue;
+        length->setText(records.at(i).durationText);
+        length->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    }
+}
+
+void TavFileListItem::showProgress(bool show) {
+    m_progress->setVisible(show && m_progress->isEnabled());
+    setViewportMargins(0, m_progress->isVisible() ? m_progress->height() : 0, 0, 0);
+}
+
+// ---- Thumbnails ----
+
+void TavFileListItem::scheduleThumbnails() {
+    if (!records.isEmpty())
+        m_thumbTimer->start();
+}
+
+void TavFileListItem::requestThumbnails() {
+    if (records.isEmpty() || rowCount() == 0)
+        return;
+    int first = rowAt(0);
+    int last = rowAt(viewport()->height() - 1);
+    if (first < 0)
+        first = 0;
+    if (last < 0)
+        last = rowCount() - 1;
+    QVector<ItemInfoThread::Job> jobs;
+    auto ask = [&](int row) {
+        if (row < 0 || row >= records.size() || isRowHidden(row))
+            return;
+        const RecordingRecord& record = records.at(row);
+        if (record.thumbPath.isEmpty() && !m_thumbRequested.contains(record.filePath)) {
+            m_thumbRequested.insert(record.filePath);
+            jobs.append({record.filePath, row});
+        }
+    };
+    if (hasCurrent())
+        ask(currentIndex);
+    for (int row = first; row <= last && row < records.size(); ++row)
+        ask(row);
+    if (jobs.isEmpty())
+        return;
+    if (m_itemInfo == nullptr) {
+        m_itemInfo = new ItemInfoThread(this);
+        connect(m_itemInfo, &ItemInfoThread::onSendUpdateThumbnail, this,
+                &TavFileListItem::onUpdateData, Qt::QueuedConnection);
+    }
+    m_itemInfo->addJobs(jobs);
+}
+
+void TavFileListItem::onUpdateData(const QString& path, int index) {
+    // Rows may have moved since the thumbnail was asked for; the thumbnail's name tells
+    // whose it is.
+    int found = -1;
+    if (index >= 0 && index < records.size() &&
+        ItemInfoThread::thumbnailPath(records.at(index).filePath) == path)
+        found = index;
+    for (int i = 0; found < 0 && i < records.size(); ++i)
+        if (ItemInfoThread::thumbnailPath(records.at(i).filePath) == path)
+            found = i;
+    if (found < 0) {
+        logWarning("[TavFileListItem]: thumbnail of a removed row.");
+        return;
+    }
+    records[found].thumbPath = path;
+    if (QTableWidgetItem* name = item(found, NameColumn))
+        name->setToolTip(QStringLiteral("<img src=\"%1\">").arg(path.toHtmlEscaped()));
+}
+
+void TavFileListItem::stopItemInfoThread() {
+    if (m_itemInfo == nullptr)
+        return;
+    m_itemInfo->stop();
+    // stop() kills a running ffmpeg, so the thread ends within a few milliseconds.
+    m_itemInfo->wait();
+    delete m_itemInfo;
+    m_itemInfo = nullptr;
+    // Whatever was asked for and not made yet is asked for again by the next thread.
+    m_thumbRequested.clear();
+}
+
+void TavFileListItem::onFinishThread() {
+    logInfo("[TavFileListItem]: onFinishThread");
+    if (m_itemInfo != nullptr)
+        m_itemInfo->exit(0);
+    stopItemInfoThread();
+}

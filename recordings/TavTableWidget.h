@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QTableWidget>
+
+class UiDescription;
+struct UiItem;
+
+// The viewer's table: no grid, no headers, whole-row selection, nothing editable, a fixed
+// row height, and its colours, font, hover and selection looks and its slim scroll bar all
+// taken from the view's description.
+class TavTableWidget : public QTableWidget {
+    Q_OBJECT
+public:
+    explicit TavTableWidget(QWidget* parent = nullptr);
+
+    // Places and styles the table from the entry tableEntry; the entry "scrollBar" styles
+    // the vertical scroll bar, "toolTip" the row tool tips and the height of the entry
+    // "row" is the row height. False when the table's entry is absent or disabled (the
+    // table is then hidden, as every view's children are).
+    bool applyDescription(const UiDescription& ui, const QString& tableEntry);
+
+    // The style sheet for a table entry and its scroll bar and tool tip entries.
+    static QString tableStyleSheet(const UiItem& table, const UiItem& scrollBar,
+                                   const UiItem& toolTip);
+};
