@@ -3,6 +3,7 @@
 #include "RecordingName.h"
 
 #include <QElapsedTimer>
+#include <QFileInfo>
 
 LengthReader::LengthReader(const QStringList& paths, int batch,
                            std::shared_ptr<std::atomic<bool>> cancel)
@@ -22,7 +23,9 @@ void LengthReader::run() {
     for (int i = 0; i < m_paths.size(); ++i) {
         if (m_cancel->load())
             return;
-        chunk << RecordingName::durationText(m_paths.at(i));
+        // An empty file (a copy that never finished) has no length to read.
+        const QString& path = m_paths.at(i);
+        chunk << (QFileInfo(path).size() > 0 ? RecordingName::durationText(path) : QString());
         if (sinceChunk.elapsed() >= kChunkIntervalMs) {
             emit lengthsRead(m_batch, first, chunk);
             first = i + 1;

@@ -1,0 +1,465 @@
+// The file list driven as a user drives it: loads, drops, the type filter, stepping,
+// deletions, double click and the background work (lengths, thumbnails).
+#include "AppGlobals.h"
+#include "ItemInfoThread.h"
+#include "ListPrompt.h"
+#include "PlayerInterface.h"
+#include "TavFileListItem.h"
+
+#include <QAction>
+#include <QFile>
+#include <QMenu>
+#include <QMimeData>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QUrl>
+#include <QtTest>
+
+namespace {
+
+const QString kExists = QStringLiteral("Item is exist!");
+const QString kUnsupported = QStringLiteral("Item format is different with our service supproted!");
+const QString kNoItem = QStringLiteral("There is no item.");
+
+} // namespace
+
+class TestFileList : public QObject {
+    Q_OBJECT
+
+    QTemporaryDir m_dir;
+    QString m_recording; // a real two-second recording
+    QStringList m_messages;
+    QStringList m_questions;
+    bool m_answer = false;
+
+    // An empty file under a recording name: enough for everything but lengths and pictures.
+    QString touch(const QString& name) {
+        const QString path = m_dir.filePath("names/" + name);
+        QFile file(path);
+        file.open(QIODevice::WriteOnly);
+        return path;
+    }
+
+    QStringList shownNames(const TavFileListItem& list) const {
+        QStringList names;
+        for (int row = 0; row < list.rowCount(); ++row)
+            if (!list.isRowHidden(row))
+                names << list.item(row, TavFileListItem::NameColumn)->text();
+        return names;
+    }
+
+    void drop(TavFileListItem& list, const QStringList& paths) {
+        QMimeData data;
+        QList<QUrl> urls;
+        for (const QString& path : paths)
+            urls << QUrl::fromLocalFile(path);
+        data.setUrls(urls);
+        const QPoint at = list.viewport()->rect().center();
+        QDragEnterEvent enter(at, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(list.viewport(), &enter);
+        QVERIFY(enter.isAccepted());
+        QDropEvent dropped(at, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(list.viewport(), &dropped);
+        // The list loads a drop once the drop event has returned.
+        QCoreApplication::processEvents();
+    }
+
+    // Six recordings of one morning, one of each type and two Parking ones, in name order.
+    QStringList morning() {
+        QStringList paths;
+        for (const char* name : {"20240101_080000_INF_1.mp4", "20240101_080100_EVT_1.mp4",
+                                 "20240101_080200_PRK_1.mp4", "20240101_080300_USR_1.mp4",
+                                 "20240101_080400_PRK_1.mp4", "20240101_080500_INF_1.mp4"})
+            paths << touch(QString::fromLatin1(name));
+        return paths;
+    }
+
+    void select(TavFileListItem& list, const QList<int>& rows) {
+        list.setFocus();
+        QTest::keyPress(&list, Qt::Key_Control);
+        list.clearSelection();
+        for (int row : rows)
+            list.selectionModel()->select(list.model()->index(row, 0),
+                                          QItemSelectionModel::Select | QItemSelectionModel::Rows);
+        QTest::keyRelease(&list, Qt::Key_Control);
+    }
+
+    void triggerMenu(TavFileListItem& list, const char* action) {
+        list.fileListShowContextMenu(QPoint(4, 4));
+        auto* menu = list.findChild<QMenu*>("fileListMenu");
+        QVERIFY(menu != nullptr && menu->isVisible());
+        menu->findChild<QAction*>(action)->trigger();
+        menu->hide();
+    }
+
+private slots:
+    void initTestCase() {
+        AppGlobals::dataFolder = m_dir.filePath("data");
+        QDir().mkpath(AppGlobals::dataFolder);
+        QDir().mkpath(m_dir.filePath("names"));
+        m_recording = m_dir.filePath("20240102_090000_EVT_1.mp4");
+        QProcess ffmpeg;
+        ffmpeg.start("ffmpeg", {"-nostdin", "-loglevel", "error", "-y", "-f", "lavfi", "-i",
+                                "color=c=gray:s=64x36:r=10:d=2", "-c:v", "libx264", "-preset",
+                                "ultrafast", "-pix_fmt", "yuv420p", m_recording});
+        QVERIFY(ffmpeg.waitForFinished(30000));
+        QCOMPARE(ffmpeg.exitCode(), 0);
+        ListPrompt::informHook = [this](const QString& text) { m_messages << text; };
+        ListPrompt::askHook = [this](const QString& text) {
+            m_questions << text;
+            return m_answer;
+        };
+    }
+
+    void init() {
+        m_messages.clear();
+        m_questions.clear();
+        m_answer = false;
+        PlayerInterface::playStatus = PlayerInterface::PlayIdle;
+        PlayerInterface::currentFile.clear();
+    }
+
+    void onePathAppendsAndRefusesDuplicates() {
+        TavFileListItem list;
+        const QString later = touch("20240101_100000_INF_1.mp4");
+        const QString earlier = touch("20240101_090000_USR_2.mp4");
+        QSignalSpy refresh(&list, &TavFileListItem::onSendRefreshFilter);
+        list.loadPaths({later});
+        list.loadPaths({m_recording});
+        list.loadPaths({later});
+        QCOMPARE(m_messages, QStringList{kExists});
+        QCOMPARE(refresh.count(), 2);
+        // One path is appended where it lands, never sorted in.
+        list.loadPaths({earlier});
+        QCOMPARE(shownNames(list),
+                 (QStringList{"20240101_100000_INF_1.mp4", "20240102_090000_EVT_1.mp4",
+                              "20240101_090000_USR_2.mp4"}));
+        QCOMPARE(TavFileListItem::records.size(), 3);
+        QCOMPARE(TavFileListItem::records.at(2).row, 2);
+        QCOMPARE(TavFileListItem::records.at(2).type, 4);
+        QCOMPARE(TavFileListItem::records.at(2).suffixes[0], QString("mp4"));
+        // A single recording's length is read at once.
+        QCOMPARE(list.item(1, TavFileListItem::LengthColumn)->text(), QString("00:02"));
+        QCOMPARE(list.item(2, TavFileListItem::TypeColumn)->text(), QString("U"));
+    }
+
+    void manyPathsReplaceSortedAndMergeRepeats() {
+        TavFileListItem list;
+        list.loadPaths({touch("20240101_070000_INF_1.mp4")});
+        const QString a = touch("20240101_080000_EVT_1.mp4");
+        const QString b = touch("20240101_080000_INF_2.mp4");
+        const QString c = touch("20230101_080000_PRK_1.avi");
+        list.loadPaths({a, b, b, c});
+        QVERIFY(m_messages.isEmpty());
+        // The earlier row is gone: a batch replaces the list.
+        QCOMPARE(shownNames(list),
+                 (QStringList{"20230101_080000_PRK_1.avi", "20240101_080000_EVT_1.mp4",
+                              "20240101_080000_INF_2.mp4"}));
+        QCOMPARE(TavFileListItem::visibleRows, (QVector<int>{0, 1, 2}));
+        for (int i = 0; i < 3; ++i)
+            QCOMPARE(TavFileListItem::records.at(i).row, i);
+        QCOMPARE(TavFileListItem::records.at(2).suffixCount, 2);
+        QCOMPARE(TavFileListItem::records.at(2).suffixes[1], QString("mp4"));
+
+        // Dropping the same two files twice gives the same two rows, without a word.
+        drop(list, {b, a});
+        drop(list, {b, a});
+        QCOMPARE(shownNames(list),
+                 (QStringList{"20240101_080000_EVT_1.mp4", "20240101_080000_INF_2.mp4"}));
+        QVERIFY(m_messages.isEmpty());
+    }
+
+    void badInputIsReported() {
+        TavFileListItem list;
+        const QString notes = touch("notes.txt");
+        const QString upper = touch("20240101_080000_INF_1.MP4");
+        const QString a = touch("20240101_080000_INF_1.mp4");
+        const QString b = touch("20240101_080100_EVT_1.mp4");
+        QSignalSpy refresh(&list, &TavFileListItem::onSendRefreshFilter);
+        drop(list, {notes});
+        QCOMPARE(m_messages, QStringList{kUnsupported});
+        QCOMPARE(list.rowCount(), 0);
+        // The valid ones are listed and the user still hears about the rest.
+        drop(list, {b, notes, a, upper});
+        QCOMPARE(m_messages, (QStringList{kUnsupported, kUnsupported}));
+        QCOMPARE(shownNames(list),
+                 (QStringList{"20240101_080000_INF_1.mp4", "20240101_080100_EVT_1.mp4"}));
+        QCOMPARE(refresh.count(), 0);
+        // Nothing usable in a batch leaves the list as it was.
+        drop(list, {notes, upper});
+        QCOMPARE(list.rowCount(), 2);
+        list.loadPaths({});
+        QCOMPARE(m_messages.last(), kNoItem);
+    }
+
+    void folderIsListedLikeOpenFolder() {
+        const QString folder = m_dir.filePath("folder");
+        QDir().mkpath(folder);
+        for (const char* name : {"20240105_100000_INF_1.mp4", "20240105_090000_EVT_1.mp4",
+                                 "20240105_110000_PRK_2.avi"})
+            QFile(folder + '/' + QLatin1String(name)).open(QIODevice::WriteOnly);
+        QDir().mkpath(folder + "/20240105_120000_INF_1.mp4"); // a folder is not a recording
+        TavFileListItem list;
+        PlayerInterface::playStatus = PlayerInterface::PlayRunning;
+        QSignalSpy stop(&list, &TavFileListItem::onSendStop);
+        drop(list, {folder});
+        QCOMPARE(shownNames(list),
+                 (QStringList{"20240105_090000_EVT_1.mp4", "20240105_100000_INF_1.mp4",
+                              "20240105_110000_PRK_2.avi"}));
+        QCOMPARE(stop.count(), 1);
+        QCOMPARE(stop.at(0).at(0).toInt(), 3);
+        QVERIFY(m_messages.isEmpty());
+
+        ListPrompt::openFolderHook = [&] { return folder; };
+        list.onDeleteAllFileAtList();
+        list.onOpenFolderDlg();
+        ListPrompt::openFolderHook = nullptr;
+        QCOMPARE(list.rowCount(), 3);
+    }
+
+    void typeMaskSteersNextAndPrevious() {
+        TavFileListItem list;
+        const QStringList paths = morning();
+        list.loadPaths(paths);
+        QSignalSpy chosen(&list, &TavFileListItem::doubleClickedItem);
+        list.onSortFile(1 | 2 | 8); // no Parking
+        QCOMPARE(TavFileListItem::visibleRows, (QVector<int>{0, 1, 3, 5}));
+        QCOMPARE(list.getCanPlayFileCount(), 4);
+        QVERIFY(list.isRowHidden(2) && list.isRowHidden(4));
+
+        list.onSetFirstFile();
+        QCOMPARE(PlayerInterface::currentFile, paths.at(0));
+        QList<int> order;
+        for (int i = 0; i < 3; ++i) {
+            list.onChangePlayItem(1);
+            order << TavFileListItem::currentIndex;
+        }
+        QCOMPARE(order, (QList<int>{1, 3, 5}));
+        QCOMPARE(list.currentPosition(), 3);
+        QCOMPARE(chosen.count(), 4);
+        QCOMPARE(list.currentRow(), 5);
+        list.onChangePlayItem(1);
+        QCOMPARE(m_messages, QStringList{kNoItem});
+        list.onChangePlayItem(-1);
+        list.onChangePlayItem(0);
+        QCOMPARE(PlayerInterface::currentFile, paths.at(1));
+
+        // The end of the last shown row reached by playback: stop quietly at the logo.
+        list.onSortFile(15);
+        list.onChangePlayItem(1);
+        list.onChangePlayItem(1);
+        list.onChangePlayItem(1);
+        list.onChangePlayItem(1);
+        QCOMPARE(TavFileListItem::currentIndex, 5);
+        QSignalSpy logo(&list, &TavFileListItem::onSendLogoSet);
+        m_messages.clear();
+        const int before = chosen.count();
+        list.onForwardItemSet();
+        QVERIFY(m_messages.isEmpty());
+        QCOMPARE(chosen.count(), before);
+        QCOMPARE(logo.count(), 1);
+        QCOMPARE(logo.at(0).at(0).toBool(), true);
+
+        // The played row hidden: no position, and stepping goes on from where it was.
+        list.onChangePlayItem(0);
+        list.onChangePlayItem(0);
+        QCOMPARE(TavFileListItem::currentIndex, 3);
+        list.onChangePlayItem(0);
+        QCOMPARE(PlayerInterface::currentFile, paths.at(2));
+        QCOMPARE(list.currentPosition(), 2);
+        list.onSortFile(1 | 2 | 8);
+        QCOMPARE(list.currentPosition(), -1);
+        list.onForwardItemSet();
+        QCOMPARE(TavFileListItem::currentIndex, 3);
+        list.onSortFile(1 | 2 | 8);
+        QCOMPARE(list.currentPosition(), 2);
+        list.onSortFile(0);
+        QCOMPARE(list.getCanPlayFileCount(), 0);
+        QCOMPARE(list.currentPosition(), -1);
+        list.onSetFirstFile();
+        QCOMPARE(m_messages.last(), kNoItem);
+    }
+
+    void deleteAtListAsksFirst() {
+        TavFileListItem list;
+        const QStringList paths = morning();
+        list.loadPaths(paths);
+        list.show();
+        list.onChangePlayItem(1);
+        list.onChangePlayItem(1); // row 1 plays
+        PlayerInterface::playStatus = PlayerInterface::PlayRunning;
+        QSignalSpy pause(&list, &TavFileListItem::onSendPause);
+        QSignalSpy stop(&list, &TavFileListItem::onSendStop);
+        select(list, {1, 4});
+
+        triggerMenu(list, "deleteAtList");
+        QCOMPARE(m_questions, QStringList{"Do you want to delete the selected files at list?"});
+        QCOMPARE(list.rowCount(), 6);
+        QCOMPARE(pause.count(), 1);
+        QCOMPARE(stop.count(), 0);
+
+        m_answer = true;
+        triggerMenu(list, "deleteAtList");
+        QCOMPARE(stop.count(), 1);
+        QCOMPARE(stop.at(0).at(0).toInt(), 3);
+        QCOMPARE(list.rowCount(), 4);
+        QCOMPARE(TavFileListItem::records.size(), 4);
+        QCOMPARE(TavFileListItem::visibleRows, (QVector<int>{0, 1, 2, 3}));
+        QCOMPARE(TavFileListItem::records.at(3).filePath, paths.at(5));
+        QCOMPARE(TavFileListItem::records.at(3).row, 3);
+        for (const QString& path : paths)
+            QVERIFY(QFile::exists(path));
+
+        // The Delete key asks the same question; a row that is not playing sends no stop.
+        select(list, {0});
+        QTest::keyClick(&list, Qt::Key_Delete);
+        QCOMPARE(m_questions.size(), 3);
+        QCOMPARE(list.rowCount(), 3);
+        QCOMPARE(stop.count(), 1);
+        list.clearSelection();
+        triggerMenu(list, "deleteAtList");
+        QCOMPARE(m_questions.size(), 3); // nothing selected: nothing asked
+    }
+
+    void deleteFromDiskRemovesFilesOnlyOnYes() {
+        TavFileListItem list;
+        const QStringList paths = morning();
+        list.loadPaths(paths);
+        list.show();
+        list.onSetFirstFile();
+        PlayerInterface::playStatus = PlayerInterface::PlayPaused;
+        QSignalSpy stop(&list, &TavFileListItem::onSendStop);
+        select(list, {0, 2});
+        triggerMenu(list, "deleteFromDisk");
+        QCOMPARE(m_questions, QStringList{"Do you want to delete the selected files at disk?"});
+        QVERIFY(QFile::exists(paths.at(0)) && QFile::exists(paths.at(2)));
+        QCOMPARE(list.rowCount(), 6);
+
+        m_answer = true;
+        triggerMenu(list, "deleteFromDisk");
+        QCOMPARE(stop.count(), 1);
+        QCOMPARE(stop.at(0).at(0).toInt(), 4);
+        QVERIFY(!QFile::exists(paths.at(0)) && !QFile::exists(paths.at(2)));
+        QVERIFY(QFile::exists(paths.at(1)));
+        QCOMPARE(list.rowCount(), 4);
+        QCOMPARE(shownNames(list).first(), QString("20240101_080100_EVT_1.mp4"));
+    }
+
+    void deletingTheCurrentRecording() {
+        TavFileListItem list;
+        const QStringList paths = morning();
+        list.loadPaths(paths);
+        QSignalSpy stop(&list, &TavFileListItem::onSendStop);
+        QSignalSpy unblock(&list, &TavFileListItem::onSetBlockEvent);
+        list.onDeleteCurrentFile(); // nothing plays yet
+        QCOMPARE(stop.count(), 0);
+        list.onChangePlayItem(1);
+        list.onChangePlayItem(1);
+        list.onDeleteCurrentFile();
+        QCOMPARE(stop.count(), 1);
+        QCOMPARE(stop.at(0).at(0).toInt(), 3);
+        QCOMPARE(list.rowCount(), 5);
+        QVERIFY(!shownNames(list).contains("20240101_080100_EVT_1.mp4"));
+        QCOMPARE(unblock.last().at(0).toBool(), false);
+        QVERIFY(QFile::exists(paths.at(1)));
+    }
+
+    void doubleClickChoosesTheRow() {
+        TavFileListItem list;
+        const QStringList paths = morning();
+        list.loadPaths(paths);
+        list.resize(300, 400);
+        list.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&list));
+        QSignalSpy stop(&list, &TavFileListItem::onSendStop);
+        QSignalSpy chosen(&list, &TavFileListItem::doubleClickedItem);
+        const QPoint third = list.visualItemRect(list.item(3, 1)).center();
+
+        list.onBlockEvent(true);
+        QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, third);
+        QCOMPARE(chosen.count(), 0);
+        list.onBlockEvent(false);
+        QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, third);
+        QCOMPARE(stop.count(), 1);
+        QCOMPARE(stop.at(0).at(0).toInt(), 1);
+        QCOMPARE(chosen.count(), 1);
+        QCOMPARE(PlayerInterface::currentFile, paths.at(3));
+        QCOMPARE(TavFileListItem::currentIndex, 3);
+        QCOMPARE(list.selectionModel()->selectedRows().size(), 1);
+        QCOMPARE(list.selectionModel()->selectedRows().first().row(), 3);
+    }
+
+    void modifierKeysChooseTheSelectionMode() {
+        TavFileListItem list;
+        list.show();
+        list.setFocus();
+        QCOMPARE(list.selectionMode(), QAbstractItemView::SingleSelection);
+        QTest::keyPress(&list, Qt::Key_Shift);
+        QCOMPARE(list.selectionMode(), QAbstractItemView::ExtendedSelection);
+        QTest::keyPress(&list, Qt::Key_Control);
+        QTest::keyRelease(&list, Qt::Key_Shift);
+        QCOMPARE(list.selectionMode(), QAbstractItemView::ExtendedSelection);
+        QTest::keyRelease(&list, Qt::Key_Control);
+        QCOMPARE(list.selectionMode(), QAbstractItemView::SingleSelection);
+        list.onBlockEvent(true);
+        QTest::keyPress(&list, Qt::Key_Control);
+        QCOMPARE(list.selectionMode(), QAbstractItemView::SingleSelection);
+    }
+
+    void cardListReplacesEverything() {
+        TavFileListItem list;
+        list.loadPaths(morning());
+        list.onSetFirstFile();
+        QSignalSpy logo(&list, &TavFileListItem::onSendLogoSet);
+        list.onReceiveFileList({touch("20240201_080000_EVT_1.mp4")});
+        QCOMPARE(list.rowCount(), 1);
+        QCOMPARE(TavFileListItem::records.size(), 1);
+        QVERIFY(PlayerInterface::currentFile.isEmpty());
+        QCOMPARE(TavFileListItem::currentIndex, 0);
+        QCOMPARE(logo.count(), 1);
+    }
+
+    void lengthsArriveInTheBackground() {
+        const QString folder = m_dir.filePath("lengths");
+        QDir().mkpath(folder);
+        QStringList paths;
+        for (int i = 0; i < 40; ++i) {
+            paths << folder + QStringLiteral("/20240301_10%1_INF_1.mp4").arg(i, 4, 10, QChar('0'));
+            QVERIFY(QFile::copy(m_recording, paths.last()));
+        }
+        paths << touch("20240301_110000_INF_1.mp4"); // no header: no length
+        TavFileListItem list;
+        connect(&list, &TavFileListItem::onSendFinishReadFileTime, &list,
+                &TavFileListItem::onFinishReadFileTime);
+        QSignalSpy finished(&list, &TavFileListItem::onSendFinishReadFileTime);
+        QSignalSpy progress(&list, &TavFileListItem::onSendReadProgress);
+        list.loadPaths(paths);
+        QVERIFY(finished.wait(20000));
+        QCOMPARE(progress.last().at(0).toInt(), 41);
+        QCOMPARE(progress.last().at(1).toInt(), 41);
+        for (int row = 0; row < 40; ++row)
+            QCOMPARE(list.item(row, TavFileListItem::LengthColumn)->text(), QString("00:02"));
+        QCOMPARE(list.item(40, TavFileListItem::LengthColumn)->text(), QString());
+        QCOMPARE(TavFileListItem::records.at(39).durationText, QString("00:02"));
+    }
+
+    void thumbnailBecomesTheToolTip() {
+        TavFileListItem list;
+        list.resize(300, 300);
+        list.show();
+        const QString broken = touch("20240101_060000_INF_1.mp4");
+        list.loadPaths({broken, m_recording});
+        QTRY_VERIFY_WITH_TIMEOUT(!TavFileListItem::records.at(1).thumbPath.isEmpty(), 20000);
+        const QString thumb = TavFileListItem::records.at(1).thumbPath;
+        QVERIFY(thumb.startsWith(AppGlobals::dataFolder + "/Thumbs/"));
+        QCOMPARE(QImage(thumb).width(), ItemInfoThread::kThumbnailWidth);
+        QCOMPARE(list.item(1, TavFileListItem::NameColumn)->toolTip(),
+                 QString("<img src=\"%1\">").arg(thumb));
+        // The broken file was asked for first and simply has none.
+        QVERIFY(TavFileListItem::records.at(0).thumbPath.isEmpty());
+        QVERIFY(list.item(0, TavFileListItem::NameColumn)->toolTip().isEmpty());
+    }
+};
+
+QTEST_MAIN(TestFileList)
+#include "test_filelist.moc"
