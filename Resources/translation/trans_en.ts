@@ -1,31 +1,205 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
 <TS version="2.1" language="en_US">
-<context>
+  <context>
+    <name>LanguageView</name>
+    <message>
+      <source>English </source>
+      <translation>English </translation>
+    </message>
+    <message>
+      <source>Korean </source>
+      <translation>Korean </translation>
+    </message>
+  </context>
+  <context>
+    <name>ListPrompt</name>
+    <message>
+      <source>Warning</source>
+      <translation>Warning</translation>
+    </message>
+  </context>
+  <context>
+    <name>TavFileComboBox</name>
+    <message>
+      <source>  All Type</source>
+      <translation>  All Type</translation>
+    </message>
+    <message>
+      <source>  Filter</source>
+      <translation>  Filter</translation>
+    </message>
+  </context>
+  <context>
+    <name>TavFileListItem</name>
+    <message>
+      <source>  Delete at list</source>
+      <translation>  Delete at list</translation>
+    </message>
+    <message>
+      <source>  Delete from disk</source>
+      <translation>  Delete from disk</translation>
+    </message>
+    <message>
+      <source>Reading lengths %v / %m</source>
+      <translation>Reading lengths %v / %m</translation>
+    </message>
+    <message>
+      <source>Open file</source>
+      <translation>Open file</translation>
+    </message>
+    <message>
+      <source>Movie file (*.avi *.mp4)</source>
+      <translation>Movie file (*.avi *.mp4)</translation>
+    </message>
+    <message>
+      <source>Open Folder</source>
+      <translation>Open Folder</translation>
+    </message>
+    <message>
+      <source>There is no item.</source>
+      <translation>There is no item.</translation>
+    </message>
+    <message>
+      <source>Item is exist!</source>
+      <translation>Item is exist!</translation>
+    </message>
+    <message>
+      <source>Item format is different with our service supproted!</source>
+      <translation>Item format is different with our service supproted!</translation>
+    </message>
+    <message>
+      <source>Do you want to delete the selected files at list?</source>
+      <translation>Do you want to delete the selected files at list?</translation>
+    </message>
+    <message>
+      <source>Do you want to delete the selected files at disk?</source>
+      <translation>Do you want to delete the selected files at disk?</translation>
+    </message>
+    <message>
+      <source>This File is loading now.. Please try later</source>
+      <translation>This File is loading now.. Please try later</translation>
+    </message>
+  </context>
+  <context>
+    <name>TavShortcutTable</name>
+    <message>
+      <source>Open files</source>
+      <translation>Open files</translation>
+    </message>
+    <message>
+      <source>Open folder</source>
+      <translation>Open folder</translation>
+    </message>
+    <message>
+      <source>Memory card</source>
+      <translation>Memory card</translation>
+    </message>
+    <message>
+      <source>Print</source>
+      <translation>Print</translation>
+    </message>
+    <message>
+      <source>Language</source>
+      <translation>Language</translation>
+    </message>
+    <message>
+      <source>Capture</source>
+      <translation>Capture</translation>
+    </message>
+    <message>
+      <source>Settings</source>
+      <translation>Settings</translation>
+    </message>
+    <message>
+      <source>About</source>
+      <translation>About</translation>
+    </message>
+  </context>
+  <context>
     <name>ui_agreementView</name>
     <message>
-        <source>Privacy agreement</source>
-        <translation>Privacy agreement</translation>
+      <source>Privacy agreement</source>
+      <translation>Privacy agreement</translation>
     </message>
     <message>
-        <source>This viewer plays the recordings of your dash camera on this computer. It does not collect your recordings, locations or other personal information. With your permission it asks for new versions of the program and sends a report when it stops unexpectedly. You can use the viewer without either.</source>
-        <translation>This viewer plays the recordings of your dash camera on this computer. It does not collect your recordings, locations or other personal information. With your permission it asks for new versions of the program and sends a report when it stops unexpectedly. You can use the viewer without either.</translation>
+      <source>This viewer plays the recordings of your dash camera on this computer. It does not collect your recordings, locations or other personal information. With your permission it asks for new versions of the program and sends a report when it stops unexpectedly. You can use the viewer without either.</source>
+      <translation>This viewer plays the recordings of your dash camera on this computer. It does not collect your recordings, locations or other personal information. With your permission it asks for new versions of the program and sends a report when it stops unexpectedly. You can use the viewer without either.</translation>
     </message>
     <message>
-        <source>Check for updates</source>
-        <translation>Check for updates</translation>
+      <source>Check for updates</source>
+      <translation>Check for updates</translation>
     </message>
     <message>
-        <source>Send crash reports automatically</source>
-        <translation>Send crash reports automatically</translation>
+      <source>Send crash reports automatically</source>
+      <translation>Send crash reports automatically</translation>
     </message>
     <message>
-        <source>Agree</source>
-        <translation>Agree</translation>
+      <source>Agree</source>
+      <translation>Agree</translation>
     </message>
     <message>
-        <source>Disagree</source>
-        <translation>Disagree</translation>
+      <source>Disagree</source>
+      <translation>Disagree</translation>
     </message>
-</context>
+  </context>
+  <context>
+    <name>ui_languageView</name>
+    <message>
+      <source>Language</source>
+      <translation>Language</translation>
+    </message>
+    <message>
+      <source>Choose the language of the program</source>
+      <translation>Choose the language of the program</translation>
+    </message>
+    <message>
+      <source>OK</source>
+      <translation>OK</translation>
+    </message>
+    <message>
+      <source>Cancel</source>
+      <translation>Cancel</translation>
+    </message>
+  </context>
+  <context>
+    <name>ui_mainWindow</name>
+    <message>
+      <source>Recordings</source>
+      <translation>Recordings</translation>
+    </message>
+  </context>
+  <context>
+    <name>ui_tavTypeList</name>
+    <message>
+      <source>Infinity</source>
+      <translation>Infinity</translation>
+    </message>
+    <message>
+      <source>Event</source>
+      <translation>Event</translation>
+    </message>
+    <message>
+      <source>Parking</source>
+      <translation>Parking</translation>
+    </message>
+    <message>
+      <source>User</source>
+      <translation>User</translation>
+    </message>
+  </context>
+  <context>
+    <name>ui_topBar</name>
+    <message>
+      <source>tavoric</source>
+      <translation>tavoric</translation>
+    </message>
+  </context>
+  <context>
+    <name>ui_waitPlayLogo</name>
+    <message>
+      <source>Open a folder of recordings or drop files here</source>
+      <translation>Open a folder of recordings or drop files here</translation>
+    </message>
+  </context>
 </TS>

@@ -1,31 +1,205 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
 <TS version="2.1" language="ko_KR">
-<context>
+  <context>
+    <name>LanguageView</name>
+    <message>
+      <source>English </source>
+      <translation>English </translation>
+    </message>
+    <message>
+      <source>Korean </source>
+      <translation>한국어 </translation>
+    </message>
+  </context>
+  <context>
+    <name>ListPrompt</name>
+    <message>
+      <source>Warning</source>
+      <translation>경고</translation>
+    </message>
+  </context>
+  <context>
+    <name>TavFileComboBox</name>
+    <message>
+      <source>  All Type</source>
+      <translation>  모든 유형</translation>
+    </message>
+    <message>
+      <source>  Filter</source>
+      <translation>  필터</translation>
+    </message>
+  </context>
+  <context>
+    <name>TavFileListItem</name>
+    <message>
+      <source>  Delete at list</source>
+      <translation>  목록에서 삭제</translation>
+    </message>
+    <message>
+      <source>  Delete from disk</source>
+      <translation>  디스크에서 삭제</translation>
+    </message>
+    <message>
+      <source>Reading lengths %v / %m</source>
+      <translation>길이 읽는 중 %v / %m</translation>
+    </message>
+    <message>
+      <source>Open file</source>
+      <translation>파일 열기</translation>
+    </message>
+    <message>
+      <source>Movie file (*.avi *.mp4)</source>
+      <translation>동영상 파일 (*.avi *.mp4)</translation>
+    </message>
+    <message>
+      <source>Open Folder</source>
+      <translation>폴더 열기</translation>
+    </message>
+    <message>
+      <source>There is no item.</source>
+      <translation>항목이 없습니다.</translation>
+    </message>
+    <message>
+      <source>Item is exist!</source>
+      <translation>이미 목록에 있는 파일입니다!</translation>
+    </message>
+    <message>
+      <source>Item format is different with our service supproted!</source>
+      <translation>지원하지 않는 파일 형식입니다!</translation>
+    </message>
+    <message>
+      <source>Do you want to delete the selected files at list?</source>
+      <translation>선택한 파일을 목록에서 삭제하시겠습니까?</translation>
+    </message>
+    <message>
+      <source>Do you want to delete the selected files at disk?</source>
+      <translation>선택한 파일을 디스크에서 삭제하시겠습니까?</translation>
+    </message>
+    <message>
+      <source>This File is loading now.. Please try later</source>
+      <translation>이 파일을 불러오는 중입니다. 잠시 후 다시 시도하세요.</translation>
+    </message>
+  </context>
+  <context>
+    <name>TavShortcutTable</name>
+    <message>
+      <source>Open files</source>
+      <translation>파일 열기</translation>
+    </message>
+    <message>
+      <source>Open folder</source>
+      <translation>폴더 열기</translation>
+    </message>
+    <message>
+      <source>Memory card</source>
+      <translation>메모리 카드</translation>
+    </message>
+    <message>
+      <source>Print</source>
+      <translation>인쇄</translation>
+    </message>
+    <message>
+      <source>Language</source>
+      <translation>언어</translation>
+    </message>
+    <message>
+      <source>Capture</source>
+      <translation>화면 캡처</translation>
+    </message>
+    <message>
+      <source>Settings</source>
+      <translation>설정</translation>
+    </message>
+    <message>
+      <source>About</source>
+      <translation>정보</translation>
+    </message>
+  </context>
+  <context>
     <name>ui_agreementView</name>
     <message>
-        <source>Privacy agreement</source>
-        <translation>개인정보 이용 동의</translation>
+      <source>Privacy agreement</source>
+      <translation>개인정보 이용 동의</translation>
     </message>
     <message>
-        <source>This viewer plays the recordings of your dash camera on this computer. It does not collect your recordings, locations or other personal information. With your permission it asks for new versions of the program and sends a report when it stops unexpectedly. You can use the viewer without either.</source>
-        <translation>이 뷰어는 블랙박스 녹화 영상을 이 컴퓨터에서 재생합니다. 녹화 영상, 위치 또는 기타 개인 정보를 수집하지 않습니다. 동의하시면 새 버전을 확인하고, 프로그램이 예기치 않게 종료될 때 보고서를 보냅니다. 두 기능 없이도 뷰어를 사용할 수 있습니다.</translation>
+      <source>This viewer plays the recordings of your dash camera on this computer. It does not collect your recordings, locations or other personal information. With your permission it asks for new versions of the program and sends a report when it stops unexpectedly. You can use the viewer without either.</source>
+      <translation>이 뷰어는 블랙박스 녹화 영상을 이 컴퓨터에서 재생합니다. 녹화 영상, 위치 또는 기타 개인 정보를 수집하지 않습니다. 동의하시면 새 버전을 확인하고, 프로그램이 예기치 않게 종료될 때 보고서를 보냅니다. 두 기능 없이도 뷰어를 사용할 수 있습니다.</translation>
     </message>
     <message>
-        <source>Check for updates</source>
-        <translation>업데이트 확인</translation>
+      <source>Check for updates</source>
+      <translation>업데이트 확인</translation>
     </message>
     <message>
-        <source>Send crash reports automatically</source>
-        <translation>오류 보고서 자동 전송</translation>
+      <source>Send crash reports automatically</source>
+      <translation>오류 보고서 자동 전송</translation>
     </message>
     <message>
-        <source>Agree</source>
-        <translation>동의</translation>
+      <source>Agree</source>
+      <translation>동의</translation>
     </message>
     <message>
-        <source>Disagree</source>
-        <translation>동의 안 함</translation>
+      <source>Disagree</source>
+      <translation>동의 안 함</translation>
     </message>
-</context>
+  </context>
+  <context>
+    <name>ui_languageView</name>
+    <message>
+      <source>Language</source>
+      <translation>언어</translation>
+    </message>
+    <message>
+      <source>Choose the language of the program</source>
+      <translation>프로그램 언어를 선택하세요</translation>
+    </message>
+    <message>
+      <source>OK</source>
+      <translation>확인</translation>
+    </message>
+    <message>
+      <source>Cancel</source>
+      <translation>취소</translation>
+    </message>
+  </context>
+  <context>
+    <name>ui_mainWindow</name>
+    <message>
+      <source>Recordings</source>
+      <translation>녹화 영상</translation>
+    </message>
+  </context>
+  <context>
+    <name>ui_tavTypeList</name>
+    <message>
+      <source>Infinity</source>
+      <translation>상시</translation>
+    </message>
+    <message>
+      <source>Event</source>
+      <translation>이벤트</translation>
+    </message>
+    <message>
+      <source>Parking</source>
+      <translation>주차</translation>
+    </message>
+    <message>
+      <source>User</source>
+      <translation>수동</translation>
+    </message>
+  </context>
+  <context>
+    <name>ui_topBar</name>
+    <message>
+      <source>tavoric</source>
+      <translation>tavoric</translation>
+    </message>
+  </context>
+  <context>
+    <name>ui_waitPlayLogo</name>
+    <message>
+      <source>Open a folder of recordings or drop files here</source>
+      <translation>녹화 폴더를 열거나 파일을 여기에 끌어다 놓으세요</translation>
+    </message>
+  </context>
 </TS>

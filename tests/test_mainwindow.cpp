@@ -1,0 +1,157 @@
+// The main window as a user meets it: built from its description, its window-state
+// buttons and keys, children left out of a description, and a language switch that
+// re-reads the texts of the open views.
+#include "AppGlobals.h"
+#include "LanguageView.h"
+#include "MainWindow.h"
+#include "TopBar.h"
+
+#include <QComboBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QSettings>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTranslator>
+#include <QtTest>
+
+class TestMainWindow : public QObject {
+    Q_OBJECT
+
+    QTemporaryDir m_dir;
+    MainWindow* m_window = nullptr;
+
+    template <typename T> T* child(const char* name) const {
+        T* found = m_window->findChild<T*>(QLatin1String(name));
+        if (found == nullptr)
+            qWarning("no child %s", name);
+        return found;
+    }
+
+private slots:
+    void initTestCase() {
+        AppGlobals::dataFolder = m_dir.path();
+        AppGlobals::programFolder = QCoreApplication::applicationDirPath();
+        AppGlobals::resourcesFolder = AppGlobals::programFolder + "/Resources";
+        AppGlobals::settings = new QSettings(m_dir.filePath("settings.ini"), QSettings::IniFormat);
+        AppGlobals::settings->setValue("agreement", "3");
+        AppGlobals::translator = new QTranslator;
+        m_window = new MainWindow;
+        m_window->show();
+        QVERIFY(QTest::qWaitForWindowExposed(m_window));
+    }
+
+    void cleanupTestCase() {
+        delete m_window;
+        QVERIFY(!QFile::exists(AppGlobals::statusLogPath()));
+    }
+
+    void builtFromItsDescription() {
+        QCOMPARE(m_window->size(), QSize(1366, 768));
+        QVERIFY(AppGlobals::updateChecksAllowed);
+        auto* topBar = child<TopBar>("topBar");
+        QVERIFY(topBar && topBar->isVisible());
+        QCOMPARE(topBar->width(), 1366);
+        QVERIFY(child<QWidget>("leftSideView")->isVisible());
+        QVERIFY(child<QWidget>("WaitPlayLogo")->isVisible());
+
+        // The shortcut column lists only the buttons its description enables; the others
+        // are hidden and disabled, and the rest of the column works.
+        QVERIFY(child<QPushButton>("bFolder")->isVisible());
+        QVERIFY(child<QPushButton>("bLanguage")->isEnabled());
+        for (const char* absent : {"bMemory", "bPrint", "bSetting", "bAbout", "bCapture"}) {
+            auto* button = child<QPushButton>(absent);
+            QVERIFY2(button == nullptr || (!button->isVisible() && !button->isEnabled()), absent);
+        }
+    }
+
+    void childrenFollowAResize() {
+        m_window->resize(1600, 900);
+        QTRY_COMPARE(child<TopBar>("topBar")->width(), 1600);
+        // The close button stays at the right edge, the list panel keeps its width and
+        // grows in height.
+        auto* close = child<QPushButton>("bClose");
+        QCOMPARE(close->geometry().right(), 1599);
+        QCOMPARE(child<QWidget>("leftSideView")->width(), 310);
+        QCOMPARE(child<QWidget>("leftSideView")->height(), 860);
+        m_window->resize(1366, 768);
+        QTRY_COMPARE(close->geometry().right(), 1365);
+    }
+
+    void windowStateButtonsAndKeys() {
+        QTest::mouseClick(child<QPushButton>("bMaximize"), Qt::LeftButton);
+        QTRY_VERIFY(m_window->isMaximized());
+        QVERIFY(child<QPushButton>("bMaximize")->isChecked());
+        QTest::mouseClick(child<QPushButton>("bMaximize"), Qt::LeftButton);
+        QTRY_VERIFY(!m_window->isMaximized());
+
+        QTest::keyClick(m_window, Qt::Key_F11);
+        QTRY_VERIFY(m_window->isFullScreen());
+        QVERIFY(child<QPushButton>("bFullScreen")->isChecked());
+        QTest::keyClick(m_window, Qt::Key_Escape);
+        QTRY_VERIFY(!m_window->isFullScreen());
+        QTRY_COMPARE(m_window->size(), QSize(1366, 768));
+
+        QSignalSpy onTop(m_window, &MainWindow::onSendAlwaysTopUiChange);
+        QTest::mouseClick(child<QPushButton>("bAlwaysTop"), Qt::LeftButton);
+        QVERIFY(m_window->windowFlags() & Qt::WindowStaysOnTopHint);
+        QCOMPARE(onTop.last().at(0).toInt(), 1);
+        QVERIFY(child<QPushButton>("bAlwaysTop")->isChecked());
+        QTest::mouseClick(child<QPushButton>("bAlwaysTop"), Qt::LeftButton);
+        QVERIFY(!(m_window->windowFlags() & Qt::WindowStaysOnTopHint));
+        QVERIFY(!child<QPushButton>("bAlwaysTop")->isChecked());
+
+        // Input blocked while a recording opens: the keys wait.
+        m_window->onBlockEvent(true);
+        QTest::keyClick(m_window, Qt::Key_F11);
+        QVERIFY(!m_window->isFullScreen());
+        m_window->onBlockEvent(false);
+    }
+
+    void languageDialog() {
+        AppGlobals::languageIndex = 0;
+        LanguageView dialog(m_window);
+        auto* combo = dialog.findChild<QComboBox*>("comboLanguage");
+        QVERIFY(combo);
+        QCOMPARE(combo->count(), 2);
+        QCOMPARE(combo->itemText(0), QString("English "));
+        QCOMPARE(combo->currentIndex(), 0);
+
+        // The language already in use: nothing happens, the dialog stays.
+        QSignalSpy changed(&dialog, &LanguageView::onSendChangeLanguage);
+        dialog.show();
+        QTest::mouseClick(dialog.findChild<QPushButton*>("bOk"), Qt::LeftButton);
+        QCOMPARE(changed.count(), 0);
+        QVERIFY(dialog.isVisible());
+
+        // Korean: the translation is swapped, the signal goes out, the dialog closes, and
+        // the main window's views re-read their texts.
+        connect(&dialog, &LanguageView::onSendChangeLanguage, m_window,
+                &MainWindow::onSendChangeLanguage);
+        combo->setCurrentIndex(1);
+        QTest::mouseClick(dialog.findChild<QPushButton*>("bOk"), Qt::LeftButton);
+        QCOMPARE(changed.count(), 1);
+        QVERIFY(!dialog.isVisible());
+        QCOMPARE(AppGlobals::languageIndex, 1);
+        QCOMPARE(child<QPushButton>("bFilelist")->text(),
+                 QCoreApplication::translate("ui_mainWindow", "Recordings"));
+        QVERIFY(child<QPushButton>("bFilelist")->text() != QString("Recordings"));
+        QCOMPARE(child<QPushButton>("bFolder")->toolTip(),
+                 QCoreApplication::translate("TavShortcutTable", "Open folder"));
+        QVERIFY(child<QPushButton>("bFolder")->toolTip() != QString("Open folder"));
+
+        // A stored Hebrew index shows no choice in the box.
+        AppGlobals::languageIndex = 2;
+        LanguageView hebrew(m_window);
+        QCOMPARE(hebrew.findChild<QComboBox*>("comboLanguage")->currentIndex(), -1);
+
+        // Back to English for the other tests.
+        AppGlobals::languageIndex = 0;
+        AppGlobals::installTranslation(0);
+        emit m_window->onSendChangeLanguage();
+        QCOMPARE(child<QPushButton>("bFilelist")->text(), QString("Recordings"));
+    }
+};
+
+QTEST_MAIN(TestMainWindow)
+#include "test_mainwindow.moc"
