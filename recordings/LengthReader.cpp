@@ -5,9 +5,9 @@
 #include <QElapsedTimer>
 #include <QFileInfo>
 
-LengthReader::LengthReader(const QStringList& paths, int batch,
+LengthReader::LengthReader(const QStringList& paths, int offset, int batch,
                            std::shared_ptr<std::atomic<bool>> cancel)
-    : m_paths(paths), m_batch(batch), m_cancel(std::move(cancel)) {
+    : m_paths(paths), m_offset(offset), m_batch(batch), m_cancel(std::move(cancel)) {
     setAutoDelete(true);
     // Deleted on the pool thread once run() returns; no thread's events are meant for it.
     moveToThread(nullptr);
@@ -27,13 +27,13 @@ void LengthReader::run() {
         const QString& path = m_paths.at(i);
         chunk << (QFileInfo(path).size() > 0 ? RecordingName::durationText(path) : QString());
         if (sinceChunk.elapsed() >= kChunkIntervalMs) {
-            emit lengthsRead(m_batch, first, chunk);
+            emit lengthsRead(m_batch, m_offset + first, chunk);
             first = i + 1;
             chunk.clear();
             sinceChunk.restart();
         }
     }
     if (!chunk.isEmpty())
-        emit lengthsRead(m_batch, first, chunk);
+        emit lengthsRead(m_batch, m_offset + first, chunk);
     emit finished(m_batch, total.elapsed());
 }

@@ -18,17 +18,20 @@ public:
     // A chunk is sent at most this often, so that 10,000 lengths do not flood the GUI thread.
     static constexpr int kChunkIntervalMs = 100;
 
-    LengthReader(const QStringList& paths, int batch, std::shared_ptr<std::atomic<bool>> cancel);
+    // Reads paths, which stand at index offset of the batch.
+    LengthReader(const QStringList& paths, int offset, int batch,
+                 std::shared_ptr<std::atomic<bool>> cancel);
 
     void run() override;
 
 signals:
-    // texts[i] is the length of the recording at index first + i.
+    // texts[i] is the length of the recording at index first + i of the batch.
     void lengthsRead(int batch, int first, const QStringList& texts);
     void finished(int batch, qint64 elapsedMs);
 
 private:
     QStringList m_paths;
+    int m_offset;
     int m_batch;
     std::shared_ptr<std::atomic<bool>> m_cancel;
 };

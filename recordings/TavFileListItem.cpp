@@ -22,6 +22,7 @@
 #include <QMimeData>
 #include <QProgressBar>
 #include <QScrollBar>
+#include <QThread>
 #include <QTimer>
 #include <QUrl>
 
@@ -50,7 +51,9 @@ TavFileListItem::TavFileListItem(QWidget* parent)
       m_progressTimer(new QTimer(this)),
       m_lengthCancel(std::make_shared<std::atomic<bool>>(false)) {
     logInfo("[TavFileListItem]: Enter TavFileListItem class.");
-    m_lengthPool.setMaxThreadCount(1);
+    // Reading a length is mostly parsing a file's header: one reader per core, and never
+    // more than two, so that the window keeps a core when there are only two.
+    m_lengthPool.setMaxThreadCount(qBound(1, QThread::idealThreadCount(), 2));
     setColumnCount(ColumnCount);
     setContextMenuPolicy(Qt::CustomContextMenu);
     setAcceptDrops(true);
@@ -718,12 +721,20 @@ void TavFileListItem::startLengthReader() {
     m_progress->setRange(0, m_lengthPaths.size());
     m_progress->setValue(0);
     m_progressTimer->start();
-    auto* reader = new LengthReader(m_lengthPaths, m_batch, m_lengthCancel);
-    connect(reader, &LengthReader::lengthsRead, this, &TavFileListItem::onLengthsRead,
-            Qt::QueuedConnection);
-    connect(reader, &LengthReader::finished, this, &TavFileListItem::onLengthsFinished,
-            Qt::QueuedConnection);
-    m_lengthPool.start(reader);
+    // The batch in one slice per reader; the first slice holds the rows shown first.
+    const int readers = m_lengthPaths.size() < 64 ? 1 : m_lengthPool.maxThreadCount();
+    const int slice = (m_lengthPaths.size() + readers - 1) / readers;
+    m_readersLeft = 0;
+    for (int offset = 0; offset < m_lengthPaths.size(); offset += slice) {
+        auto* reader =
+            new LengthReader(m_lengthPaths.mid(offset, slice), offset, m_batch, m_lengthCancel);
+        connect(reader, &LengthReader::lengthsRead, this, &TavFileListItem::onLengthsRead,
+                Qt::QueuedConnection);
+        connect(reader, &LengthReader::finished, this, &TavFileListItem::onLengthsFinished,
+                Qt::QueuedConnection);
+        ++m_readersLeft;
+        m_lengthPool.start(reader);
+    }
 }
 
 int TavFileListItem::recordIndexOf(const QString& path, int hint) const {
@@ -751,7 +762,7 @@ void TavFileListItem::onLengthsRead(int batch, int first, const QStringList& tex
 }
 
 void TavFileListItem::onLengthsFinished(int batch, qint64 elapsedMs) {
-    if (batch != m_batch)
+    if (batch != m_batch || --m_readersLeft > 0)
         return;
     logInfo("getFileTime elapsed time: %lld ms", static_cast<long long>(elapsedMs));
     m_reading = false;

@@ -160,6 +160,7 @@ private:
     std::shared_ptr<std::atomic<bool>> m_lengthCancel;
     QStringList m_lengthPaths;
     int m_lengthsDone = 0;
+    int m_readersLeft = 0;
     int m_batch = 0;
     bool m_reading = false;
 };
