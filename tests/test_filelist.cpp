@@ -15,6 +15,10 @@
 #include <QUrl>
 #include <QtTest>
 
+#ifdef Q_OS_UNIX
+#include <sys/stat.h>
+#endif
+
 namespace {
 
 const QString kExists = QStringLiteral("Item is exist!");
@@ -461,6 +465,38 @@ private slots:
         // The broken file was asked for first and simply has none.
         QVERIFY(TavFileListItem::records.at(0).thumbPath.isEmpty());
         QVERIFY(list.item(0, TavFileListItem::NameColumn)->toolTip().isEmpty());
+    }
+
+    void thumbnailWorkerStopsAndCopesWithoutFfmpeg() {
+        ItemInfoThread worker;
+        QSignalSpy made(&worker, &ItemInfoThread::onSendUpdateThumbnail);
+#ifdef Q_OS_UNIX
+        // ffmpeg waits for ever on a pipe nobody writes to: only a kill ends it.
+        const QString pipe = m_dir.filePath("20240101_050000_INF_1.mp4");
+        QCOMPARE(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+        worker.addJobs({{pipe, 0}, {m_recording, 1}});
+        QVERIFY(worker.isBusy());
+        QTRY_COMPARE(worker.currentPath(), pipe);
+        worker.stop();
+        QVERIFY(worker.wait(5000));
+        QVERIFY(!worker.isBusy());
+        QVERIFY(worker.currentPath().isEmpty());
+        QCOMPARE(made.count(), 0); // the queued recording was dropped too
+        QVERIFY(QDir(ItemInfoThread::thumbsFolder()).entryList({"*.part.jpg"}).isEmpty());
+#endif
+        // Without an ffmpeg there are no thumbnails, and no trouble either.
+        const QByteArray path = qgetenv("PATH");
+        qputenv("PATH", m_dir.filePath("names").toLocal8Bit());
+        QVERIFY(ItemInfoThread::ffmpegProgram().isEmpty());
+        QFile::remove(ItemInfoThread::thumbnailPath(m_recording));
+        worker.addJobs({{m_recording, 3}});
+        QTRY_VERIFY(!worker.isBusy());
+        qputenv("PATH", path);
+        QCOMPARE(made.count(), 0);
+        worker.addJobs({{m_recording, 4}});
+        QVERIFY(made.wait(20000));
+        QCOMPARE(made.at(0).at(0).toString(), ItemInfoThread::thumbnailPath(m_recording));
+        QCOMPARE(made.at(0).at(1).toInt(), 4);
     }
 };
 
