@@ -14,8 +14,6 @@ LengthReader::LengthReader(const QStringList& paths, int offset, int batch,
 }
 
 void LengthReader::run() {
-    QElapsedTimer total;
-    total.start();
     QElapsedTimer sinceChunk;
     sinceChunk.start();
     QStringList chunk;
@@ -35,5 +33,5 @@ void LengthReader::run() {
     }
     if (!chunk.isEmpty())
         emit lengthsRead(m_batch, m_offset + first, chunk);
-    emit finished(m_batch, total.elapsed());
+    emit finished(m_batch);
 }

@@ -27,7 +27,7 @@ public:
 signals:
     // texts[i] is the length of the recording at index first + i of the batch.
     void lengthsRead(int batch, int first, const QStringList& texts);
-    void finished(int batch, qint64 elapsedMs);
+    void finished(int batch);
 
 private:
     QStringList m_paths;

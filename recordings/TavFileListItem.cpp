@@ -1,9 +1,10 @@
 #include "TavFileListItem.h"
 
 #include "ItemInfoThread.h"
-#include "LengthReader.h"
+#include "LengthReading.h"
 #include "ListPrompt.h"
 #include "PlayerInterface.h"
+#include "RecordingBatch.h"
 #include "RecordingName.h"
 #include "StatusLog.h"
 #include "TypeIconDelegate.h"
@@ -22,7 +23,6 @@
 #include <QMimeData>
 #include <QProgressBar>
 #include <QScrollBar>
-#include <QThread>
 #include <QTimer>
 #include <QUrl>
 
@@ -48,12 +48,8 @@ const char* const kViewName = "TavFileListItem";
 
 TavFileListItem::TavFileListItem(QWidget* parent)
     : TavTableWidget(parent), m_thumbTimer(new QTimer(this)), m_progress(new QProgressBar(this)),
-      m_progressTimer(new QTimer(this)),
-      m_lengthCancel(std::make_shared<std::atomic<bool>>(false)) {
+      m_progressTimer(new QTimer(this)), m_lengths(new LengthReading(this)) {
     logInfo("[TavFileListItem]: Enter TavFileListItem class.");
-    // Reading a length is mostly parsing a file's header: one reader per core, and never
-    // more than two, so that the window keeps a core when there are only two.
-    m_lengthPool.setMaxThreadCount(qBound(1, QThread::idealThreadCount(), 2));
     setColumnCount(ColumnCount);
     setContextMenuPolicy(Qt::CustomContextMenu);
     setAcceptDrops(true);
@@ -67,7 +63,10 @@ TavFileListItem::TavFileListItem(QWidget* parent)
     m_progressTimer->setSingleShot(true);
     m_progressTimer->setInterval(kProgressDelayMs);
     connect(m_thumbTimer, &QTimer::timeout, this, &TavFileListItem::requestThumbnails);
-    connect(m_progressTimer, &QTimer::timeout, this, [this] { showProgress(m_reading); });
+    connect(m_progressTimer, &QTimer::timeout, this,
+            [this] { showProgress(m_lengths->isReading()); });
+    connect(m_lengths, &LengthReading::lengthsRead, this, &TavFileListItem::onLengthsRead);
+    connect(m_lengths, &LengthReading::finished, this, &TavFileListItem::onLengthsFinished);
     connect(verticalScrollBar(), &QScrollBar::valueChanged, this,
             &TavFileListItem::scheduleThumbnails);
     connect(this, &QWidget::customContextMenuRequested, this,
@@ -77,9 +76,8 @@ TavFileListItem::TavFileListItem(QWidget* parent)
 }
 
 TavFileListItem::~TavFileListItem() {
-    m_lengthCancel->store(true);
+    m_lengths->cancel();
     stopItemInfoThread();
-    m_lengthPool.waitForDone();
 }
 
 void TavFileListItem::setupUi() {
@@ -101,29 +99,15 @@ void TavFileListItem::setupUi() {
     setItemDelegateForColumn(TypeColumn, m_typeDelegate);
 
     const UiItem progress = ui.item(QStringLiteral("loadProgress"));
-    const QString progressSheet =
-        QStringLiteral("QProgressBar{background: %1; color: %2; border: none; "
-                       "text-align: center;} QProgressBar::chunk{background: %3;}")
-            .arg(progress.color[UiItem::Default], progress.textColor[UiItem::Default],
-                 progress.color[UiItem::Select]);
-    UiApplier::apply(m_progress, QStringLiteral("loadProgress"), progress, progressSheet);
+    UiApplier::apply(m_progress, QStringLiteral("loadProgress"), progress,
+                     progressStyleSheet(progress));
     m_progress->hide();
 
     const UiItem menu = ui.item(QStringLiteral("contextMenu"));
     m_menu = new QMenu(this);
     m_menu->setObjectName(QStringLiteral("fileListMenu"));
     m_menu->setFont(menu.font);
-    const int itemHeight = menu.size.isValid() ? menu.size.height() : 20;
-    m_menu->setStyleSheet(
-        QStringLiteral("QMenu{background: %1; border: 1px solid %2;} "
-                       "QMenu::item{height: %3px; color: %4; background: transparent; "
-                       "font-size: %5px; font-weight: normal; padding: 0px 16px 0px 4px;} "
-                       "QMenu::item:selected{background: %6; color: %7;}")
-            .arg(menu.color[UiItem::Default], menu.border[UiItem::Default])
-            .arg(itemHeight)
-            .arg(menu.textColor[UiItem::Default])
-            .arg(menu.font.pixelSize() > 0 ? menu.font.pixelSize() : 12)
-            .arg(menu.color[UiItem::Select], menu.textColor[UiItem::Select]));
+    m_menu->setStyleSheet(menuStyleSheet(menu));
     m_deleteAtList = m_menu->addAction(QString());
     m_deleteAtList->setObjectName(QStringLiteral("deleteAtList"));
     m_deleteFromDisk = m_menu->addAction(QString());
@@ -148,6 +132,14 @@ int TavFileListItem::typeBit(const QString& letter) {
 
 // ---- Loading ----
 
+QStringList TavFileListItem::folderFiles(const QString& folder) {
+    const QDir dir(folder);
+    QStringList files;
+    for (const QString& name : dir.entryList(QDir::Files, QDir::Unsorted))
+        files << dir.absoluteFilePath(name);
+    return files;
+}
+
 void TavFileListItem::loadPaths(const QStringList& paths) {
     QStringList files;
     bool folder = false;
@@ -158,9 +150,7 @@ void TavFileListItem::loadPaths(const QStringList& paths) {
             continue;
         }
         folder = true;
-        const QDir dir(info.absoluteFilePath());
-        for (const QString& name : dir.entryList(QDir::Files, QDir::Unsorted))
-            files << dir.absoluteFilePath(name);
+        files << folderFiles(info.absoluteFilePath());
     }
     // A folder replaces the list as the open-folder dialog does, so it stops what plays.
     if (folder && (PlayerInterface::playStatus == PlayerInterface::PlayRunning ||
@@ -186,10 +176,7 @@ void TavFileListItem::onOpenFolderDlg() {
     const QString folder = ListPrompt::openFolder(this, tr("Open Folder"));
     if (folder.isEmpty())
         return;
-    const QDir dir(folder);
-    QStringList files;
-    for (const QString& name : dir.entryList(QDir::Files, QDir::Unsorted))
-        files << dir.absoluteFilePath(name);
+    const QStringList files = folderFiles(folder);
     if (!files.isEmpty())
         onLoadItem(files);
 }
@@ -234,33 +221,17 @@ void TavFileListItem::onLoadItem(const QStringList& paths) {
         fillRow(record.row, record);
         rebuildVisibleRows();
     } else {
-        QVector<RecordingRecord> batch;
         bool rejected = false;
-        for (const QString& path : paths) {
-            if (!RecordingName::isSupportedName(path)) {
-                rejected = true;
-                continue;
-            }
-            if (!batch.isEmpty() && batch.last().filePath == path) {
-                RecordingRecord& last = batch.last();
-                if (last.suffixCount < int(last.suffixes.size()))
-                    last.suffixes[last.suffixCount++] = path.right(3);
-                continue;
-            }
-            batch.append(RecordingRecord::fromPath(path, batch.size()));
-        }
+        const QVector<RecordingRecord> batch = RecordingBatch::fromPaths(paths, &rejected);
         // Nothing usable leaves the list as it was rather than empty.
         if (!batch.isEmpty()) {
-            std::stable_sort(batch.begin(), batch.end());
             cancelLengthReader();
             m_thumbRequested.clear();
             setUpdatesEnabled(false);
             clearContents();
             setRowCount(batch.size());
-            for (int i = 0; i < batch.size(); ++i) {
-                batch[i].row = i;
+            for (int i = 0; i < batch.size(); ++i)
                 fillRow(i, batch[i]);
-            }
             setUpdatesEnabled(true);
             records = batch;
             rebuildVisibleRows();
@@ -506,54 +477,45 @@ QList<int> TavFileListItem::selectedRecordRows() const {
     return rows;
 }
 
-bool TavFileListItem::askToDeleteAtList() {
-    if (PlayerInterface::playStatus == PlayerInterface::PlayRunning)
-        emit onSendPause();
-    if (!ListPrompt::ask(this, tr("Do you want to delete the selected files at list?"))) {
-        logInfo("Select No");
-        return false;
-    }
-    return true;
-}
-
 void TavFileListItem::onDeleteSelectedAtList() {
-    const QList<int> rows = selectedRecordRows();
-    if (rows.isEmpty()) {
-        logInfo("No Select Items");
-        return;
-    }
-    const bool currentSelected = hasCurrent() && rows.contains(currentIndex);
-    if (!askToDeleteAtList())
-        return;
-    if (currentSelected && PlayerInterface::playStatus != PlayerInterface::PlayIdle &&
-        PlayerInterface::playStatus != PlayerInterface::PlayStopped)
-        emit onSendStop(3);
-    removeRows(rows, false);
-    emit onSetBlockEvent(false);
+    deleteSelected(false);
 }
 
 void TavFileListItem::onDeleteSelectedFromDisk() {
+    deleteSelected(true);
+}
+
+void TavFileListItem::deleteSelected(bool fromDisk) {
     const QList<int> rows = selectedRecordRows();
     if (rows.isEmpty()) {
         logInfo("No Select Items");
         return;
     }
     const bool currentSelected = hasCurrent() && rows.contains(currentIndex);
-    if (PlayerInterface::playStatus == PlayerInterface::PlayRunning)
+    const int status = PlayerInterface::playStatus;
+    if (status == PlayerInterface::PlayRunning)
         emit onSendPause();
-    if (!ListPrompt::ask(this, tr("Do you want to delete the selected files at disk?"))) {
+    const QString question = fromDisk ? tr("Do you want to delete the selected files at disk?")
+                                      : tr("Do you want to delete the selected files at list?");
+    if (!ListPrompt::ask(this, question)) {
         logInfo("Select No");
         return;
     }
-    if (m_itemInfo != nullptr && m_itemInfo->isBusy()) {
-        logInfo("[TavFileListItem] Stop Thread");
-        emit onSendThreadStop();
+    if (!fromDisk) {
+        if (currentSelected && status != PlayerInterface::PlayIdle &&
+            status != PlayerInterface::PlayStopped)
+            emit onSendStop(3);
+    } else {
+        if (m_itemInfo != nullptr && m_itemInfo->isBusy()) {
+            logInfo("[TavFileListItem] Stop Thread");
+            emit onSendThreadStop();
+        }
+        if (currentSelected && status != PlayerInterface::PlayIdle) {
+            logInfo("[TavFileListItem] SendStop 4");
+            emit onSendStop(4);
+        }
     }
-    if (currentSelected && PlayerInterface::playStatus != PlayerInterface::PlayIdle) {
-        logInfo("[TavFileListItem] SendStop 4");
-        emit onSendStop(4);
-    }
-    removeRows(rows, true);
+    removeRows(rows, fromDisk);
     emit onSetBlockEvent(false);
 }
 
@@ -670,10 +632,7 @@ void TavFileListItem::mouseDoubleClickEvent(QMouseEvent* event) {
 }
 
 void TavFileListItem::dragEnterEvent(QDragEnterEvent* event) {
-    if (event->mimeData()->hasUrls())
-        event->acceptProposedAction();
-    else
-        event->ignore();
+    dragMoveEvent(event);
 }
 
 void TavFileListItem::dragMoveEvent(QDragMoveEvent* event) {
@@ -704,37 +663,18 @@ void TavFileListItem::resizeEvent(QResizeEvent* event) {
 // ---- Lengths ----
 
 void TavFileListItem::cancelLengthReader() {
-    m_lengthCancel->store(true);
-    m_lengthCancel = std::make_shared<std::atomic<bool>>(false);
-    ++m_batch;
-    m_reading = false;
-    m_lengthPaths.clear();
+    m_lengths->cancel();
     showProgress(false);
 }
 
 void TavFileListItem::startLengthReader() {
-    m_lengthPaths.clear();
+    QStringList paths;
     for (const RecordingRecord& record : records)
-        m_lengthPaths << record.filePath;
-    m_lengthsDone = 0;
-    m_reading = true;
-    m_progress->setRange(0, m_lengthPaths.size());
+        paths << record.filePath;
+    m_progress->setRange(0, paths.size());
     m_progress->setValue(0);
     m_progressTimer->start();
-    // The batch in one slice per reader; the first slice holds the rows shown first.
-    const int readers = m_lengthPaths.size() < 64 ? 1 : m_lengthPool.maxThreadCount();
-    const int slice = (m_lengthPaths.size() + readers - 1) / readers;
-    m_readersLeft = 0;
-    for (int offset = 0; offset < m_lengthPaths.size(); offset += slice) {
-        auto* reader =
-            new LengthReader(m_lengthPaths.mid(offset, slice), offset, m_batch, m_lengthCancel);
-        connect(reader, &LengthReader::lengthsRead, this, &TavFileListItem::onLengthsRead,
-                Qt::QueuedConnection);
-        connect(reader, &LengthReader::finished, this, &TavFileListItem::onLengthsFinished,
-                Qt::QueuedConnection);
-        ++m_readersLeft;
-        m_lengthPool.start(reader);
-    }
+    m_lengths->start(paths);
 }
 
 int TavFileListItem::recordIndexOf(const QString& path, int hint) const {
@@ -745,28 +685,21 @@ int TavFileListItem::recordIndexOf(const QString& path, int hint) const {
     return -1;
 }
 
-void TavFileListItem::onLengthsRead(int batch, int first, const QStringList& texts) {
-    if (batch != m_batch)
-        return;
-    for (int k = 0; k < texts.size() && first + k < m_lengthPaths.size(); ++k) {
-        const int index = recordIndexOf(m_lengthPaths.at(first + k), first + k);
+void TavFileListItem::onLengthsRead(int first, const QStringList& texts) {
+    for (int k = 0; k < texts.size() && first + k < m_lengths->total(); ++k) {
+        const int index = recordIndexOf(m_lengths->pathAt(first + k), first + k);
         if (index < 0)
             continue;
         records[index].durationText = texts.at(k);
         if (QTableWidgetItem* length = item(index, LengthColumn))
             length->setText(texts.at(k));
     }
-    m_lengthsDone += texts.size();
-    m_progress->setValue(m_lengthsDone);
-    emit onSendReadProgress(m_lengthsDone, m_lengthPaths.size());
+    m_progress->setValue(m_lengths->done());
+    emit onSendReadProgress(m_lengths->done(), m_lengths->total());
 }
 
-void TavFileListItem::onLengthsFinished(int batch, qint64 elapsedMs) {
-    if (batch != m_batch || --m_readersLeft > 0)
-        return;
+void TavFileListItem::onLengthsFinished(qint64 elapsedMs) {
     logInfo("getFileTime elapsed time: %lld ms", static_cast<long long>(elapsedMs));
-    m_reading = false;
-    m_lengthPaths.clear();
     showProgress(false);
     emit onSendFinishReadFileTime();
 }

@@ -5,13 +5,10 @@
 
 #include <QSet>
 #include <QStringList>
-#include <QThreadPool>
 #include <QVector>
 
-#include <atomic>
-#include <memory>
-
 class ItemInfoThread;
+class LengthReading;
 class QAction;
 class QMenu;
 class QProgressBar;
@@ -116,6 +113,8 @@ private slots:
 
 private:
     void setupUi();
+    // A folder's files (not its folders), unsorted, as absolute paths.
+    static QStringList folderFiles(const QString& folder);
     void onLoadItem(const QStringList& paths);
     void onRemoveFile(int row);
     void onRenumber();
@@ -130,13 +129,13 @@ private:
     int previousRow() const;
     void playItem(int index);
     QList<int> selectedRecordRows() const;
-    bool askToDeleteAtList();
+    void deleteSelected(bool fromDisk);
     void removeRows(QList<int> rows, bool fromDisk);
     void stopItemInfoThread();
     void startLengthReader();
     void cancelLengthReader();
-    void onLengthsRead(int batch, int first, const QStringList& texts);
-    void onLengthsFinished(int batch, qint64 elapsedMs);
+    void onLengthsRead(int first, const QStringList& texts);
+    void onLengthsFinished(qint64 elapsedMs);
     int recordIndexOf(const QString& path, int hint) const;
     void scheduleThumbnails();
     void requestThumbnails();
@@ -156,11 +155,5 @@ private:
     TypeIconDelegate* m_typeDelegate = nullptr;
     QProgressBar* m_progress;
     QTimer* m_progressTimer;
-    QThreadPool m_lengthPool;
-    std::shared_ptr<std::atomic<bool>> m_lengthCancel;
-    QStringList m_lengthPaths;
-    int m_lengthsDone = 0;
-    int m_readersLeft = 0;
-    int m_batch = 0;
-    bool m_reading = false;
+    LengthReading* m_lengths;
 };

@@ -91,3 +91,24 @@ QString TavTableWidget::tableStyleSheet(const UiItem& table, const UiItem& scrol
                           toolTip.textColor[UiItem::Default], borderRule(toolTip));
     return sheet;
 }
+
+QString TavTableWidget::menuStyleSheet(const UiItem& menu) {
+    const int itemHeight = menu.size.isValid() ? menu.size.height() : 20;
+    const int fontSize = menu.font.pixelSize() > 0 ? menu.font.pixelSize() : 12;
+    return QStringLiteral("QMenu{background: %1; border: %2;} "
+                          "QMenu::item{height: %3px; color: %4; background: transparent; "
+                          "font-size: %5px; font-weight: normal; padding: 0px 16px 0px 4px;} "
+                          "QMenu::item:selected{background: %6; color: %7;}")
+        .arg(menu.color[UiItem::Default], borderRule(menu))
+        .arg(itemHeight)
+        .arg(menu.textColor[UiItem::Default])
+        .arg(fontSize)
+        .arg(orDefault(menu.color, UiItem::Select), orDefault(menu.textColor, UiItem::Select));
+}
+
+QString TavTableWidget::progressStyleSheet(const UiItem& bar) {
+    return QStringLiteral("QProgressBar{background: %1; color: %2; border: none; "
+                          "text-align: center;} QProgressBar::chunk{background: %3;}")
+        .arg(orDefault(bar.color, UiItem::Default), bar.textColor[UiItem::Default],
+             orDefault(bar.color, UiItem::Select));
+}

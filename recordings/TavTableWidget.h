@@ -22,4 +22,9 @@ public:
     // The style sheet for a table entry and its scroll bar and tool tip entries.
     static QString tableStyleSheet(const UiItem& table, const UiItem& scrollBar,
                                    const UiItem& toolTip);
+    // A table's context menu: Default colours and border, Select colours for the item under
+    // the pointer; the entry's height is the height of an item.
+    static QString menuStyleSheet(const UiItem& menu);
+    // A progress bar in the table's top strip: Default colours, Select for the done part.
+    static QString progressStyleSheet(const UiItem& bar);
 };
