@@ -84,16 +84,9 @@ void TavFileListItem::setupUi() {
     UiDescription ui;
     ui.open(QString::fromLatin1(kViewName));
     applyDescription(ui, QStringLiteral("fileList"));
-    QHeaderView* header = horizontalHeader();
-    header->setSectionResizeMode(TypeColumn, QHeaderView::Fixed);
-    header->setSectionResizeMode(NameColumn, QHeaderView::Stretch);
-    header->setSectionResizeMode(LengthColumn, QHeaderView::Fixed);
-    for (auto [column, entry] :
-         {std::pair{TypeColumn, "columnType"}, std::pair{LengthColumn, "columnLength"}}) {
-        const UiItem item = ui.item(entry);
-        if (item.usable() && item.size.isValid())
-            header->resizeSection(column, item.size.width());
-    }
+    applyColumnWidth(ui, TypeColumn, QStringLiteral("columnType"));
+    applyColumnWidth(ui, LengthColumn, QStringLiteral("columnLength"));
+    horizontalHeader()->setSectionResizeMode(NameColumn, QHeaderView::Stretch);
     const UiItem icon = ui.item(QStringLiteral("typeIcon"));
     m_typeDelegate = new TypeIconDelegate(icon.size.isValid() ? icon.size : QSize(16, 16), this);
     setItemDelegateForColumn(TypeColumn, m_typeDelegate);
@@ -118,6 +111,7 @@ void TavFileListItem::setupUi() {
 }
 
 void TavFileListItem::onChangeLanguage() {
+    logDebug("TavFileListItem::onChangeLanguage");
     m_deleteAtList->setText(tr("  Delete at list"));
     m_deleteFromDisk->setText(tr("  Delete from disk"));
     //: Shown while the lengths of newly listed recordings are read: done / total.
@@ -398,6 +392,7 @@ void TavFileListItem::onSetFirstFile() {
 }
 
 int TavFileListItem::getCanPlayFileCount() {
+    logDebug("TavFileListItem::getCanPlayFileCount");
     return visibleRows.size();
 }
 
@@ -406,6 +401,7 @@ QString TavFileListItem::getLoadingFileName() {
 }
 
 void TavFileListItem::onBlockEvent(bool block) {
+    logDebug("TavFileListItem::onBlockEvent");
     m_blocked = block;
 }
 
@@ -556,6 +552,7 @@ void TavFileListItem::fileListShowContextMenu(const QPoint& position) {
 // ---- Keyboard and mouse ----
 
 void TavFileListItem::onChangeSelectionMode() {
+    logDebug("TavFileListItem::onChangeSelectionMode");
     setSelectionMode(m_controlHeld || m_shiftHeld ? QAbstractItemView::ExtendedSelection
                                                   : QAbstractItemView::SingleSelection);
 }
@@ -761,6 +758,7 @@ void TavFileListItem::requestThumbnails() {
 }
 
 void TavFileListItem::onUpdateData(const QString& path, int index) {
+    logDebug("TavFileListItem::onUpdateData");
     // Rows may have moved since the thumbnail was asked for; the thumbnail's name tells
     // whose it is.
     int found = -1;

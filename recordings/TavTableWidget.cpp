@@ -52,6 +52,14 @@ bool TavTableWidget::applyDescription(const UiDescription& ui, const QString& ta
     return true;
 }
 
+void TavTableWidget::applyColumnWidth(const UiDescription& ui, int column, const QString& entry) {
+    const UiItem item = ui.item(entry);
+    if (!item.usable() || !item.size.isValid())
+        return;
+    horizontalHeader()->setSectionResizeMode(column, QHeaderView::Fixed);
+    horizontalHeader()->resizeSection(column, item.size.width());
+}
+
 QString TavTableWidget::tableStyleSheet(const UiItem& table, const UiItem& scrollBar,
                                         const UiItem& toolTip) {
     const QString background =

@@ -19,6 +19,9 @@ public:
     // table is then hidden, as every view's children are).
     bool applyDescription(const UiDescription& ui, const QString& tableEntry);
 
+    // Fixes a column's width to the width of the entry's size, when the entry is usable.
+    void applyColumnWidth(const UiDescription& ui, int column, const QString& entry);
+
     // The style sheet for a table entry and its scroll bar and tool tip entries.
     static QString tableStyleSheet(const UiItem& table, const UiItem& scrollBar,
                                    const UiItem& toolTip);
