@@ -366,6 +366,9 @@ void VLCComponent::onStopped(const libvlc_event_t*, void* self) {
     auto* engine = static_cast<VLCComponent*>(self);
     logDebug("VLCComponent::VLC_Stop_cb");
     const int reason = stopReason;
+    // The state goes first: receivers of the signals below run on the GUI thread and must
+    // find the player stopped.
+    playerState = Stopped;
     switch (reason) {
     case StopGoNext:
         emit engine->send_GoNext();
@@ -389,7 +392,6 @@ void VLCComponent::onStopped(const libvlc_event_t*, void* self) {
         break;
     }
     emit engine->stoppedReached(reason);
-    playerState = Stopped;
     logInfo("********** event_occur libvlc_Stopped **********");
 }
 

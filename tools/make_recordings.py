@@ -4,6 +4,8 @@
     make_recordings.py demo  DIR          the demo set the viewer starts on
     make_recordings.py test  DIR          tiny media and bad files for the test suite
     make_recordings.py bench DIR [-n N]   media for the benchmarks in bench/
+    make_recordings.py playback DIR       one colour per channel, for the player's tests
+    make_recordings.py sync DIR           three 1080p channels whose frames carry their number
 
 Telemetry is written as a timed-text track in the syntax of docs/telemetry-format.md. A
 folder that already holds the output of the same version of this script is left alone.
@@ -499,6 +501,55 @@ def make_bench(folder, scratch, copies):
     make_channel_file(Pictures(scratch), path, 0, 180, drive.texts(0, 180),
                       quality=("-crf", "28"))
 
+# --- the player's sets ----------------------------------------------------------------------
+
+def coloured_channel(colour, seconds, path):
+    """A channel filled with one colour, its frame number in a corner: a snapshot tells which
+    channel a player shows and whether a frame step moved on."""
+    run(["-f", "lavfi", "-i", "color=c=%s:s=320x180:r=30:d=%d" % (colour, seconds),
+         "-vf", "drawtext=font='%s':text='%%{n}':fontsize=40:fontcolor=white:x=10:y=10" % FONT]
+        + X264 + ["-g", "15", path])
+
+
+def make_playback(folder, scratch):
+    def path(name):
+        return os.path.join(folder, name)
+
+    colours = ("red", "lime", "blue")
+    for channel, colour in enumerate(colours, 1):
+        coloured_channel(colour, 5, path("20240301_090000_INF_%d.mp4" % channel))
+    # Front and third camera only: the third file must play in the second player.
+    coloured_channel("red", 4, path("20240301_091000_EVT_1.mp4"))
+    coloured_channel("blue", 4, path("20240301_091000_EVT_3.mp4"))
+    # All three cameras as the tracks of one file, with sound.
+    parts = []
+    for colour in colours:
+        parts.append(os.path.join(scratch, colour + ".mp4"))
+        coloured_channel(colour, 4, parts[-1])
+    run(["-i", parts[0], "-i", parts[1], "-i", parts[2], "-f", "lavfi", "-i", "sine=d=4",
+         "-map", "0:v", "-map", "1:v", "-map", "2:v", "-map", "3:a", "-c:v", "copy",
+         "-c:a", "aac", "-shortest", path("20240301_092000_USR_4.mp4")])
+
+
+def make_sync(folder, scratch):
+    """Three 1080p channels of 25 s at 30 fps. The top 64 rows carry the frame number as 16
+    black or white bars (bit 0 at the left), so a screen grab tells which frame each scene
+    shows."""
+    bars = "geq=lum='255*mod(floor(N/pow(2,floor(X*16/W))),2)':cb=128:cr=128"
+    jobs = []
+    for channel in (1, 2, 3):
+        jobs.append(subprocess.Popen(
+            [FFMPEG, "-nostdin", "-v", "error", "-y",
+             "-f", "lavfi", "-i", "testsrc2=s=1920x1080:r=30:d=25",
+             "-f", "lavfi", "-i", "nullsrc=s=1920x64:r=30:d=25",
+             "-filter_complex", "[1]%s[bar];[0][bar]overlay=0:0" % bars,
+             "-c:v", "libx264", "-preset", "veryfast", "-pix_fmt", "yuv420p", "-g", "30",
+             os.path.join(folder, "20240701_090000_INF_%d.mp4" % channel)]))
+    for job in jobs:
+        if job.wait() != 0:
+            sys.exit("make_recordings: ffmpeg failed making the sync recordings")
+
+
 # --- entry -------------------------------------------------------------------------------
 
 def script_version():
@@ -508,7 +559,7 @@ def script_version():
 
 def main():
     parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
-    parser.add_argument("set", choices=["demo", "test", "bench"])
+    parser.add_argument("set", choices=["demo", "test", "bench", "playback", "sync"])
     parser.add_argument("folder")
     parser.add_argument("-n", "--copies", type=int, default=2000,
                         help="bench: recordings for the length benchmark")
@@ -535,6 +586,10 @@ def main():
             make_demo(folder, scratch)
         elif options.set == "test":
             make_test(folder, scratch)
+        elif options.set == "playback":
+            make_playback(folder, scratch)
+        elif options.set == "sync":
+            make_sync(folder, scratch)
         else:
             make_bench(folder, scratch, options.copies)
     with open(stamp, "w") as out:
