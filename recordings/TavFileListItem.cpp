@@ -47,8 +47,9 @@ const char* const kViewName = "TavFileListItem";
 } // namespace
 
 TavFileListItem::TavFileListItem(QWidget* parent)
-    : TavTableWidget(parent), m_thumbTimer(new QTimer(this)), m_progress(new QProgressBar(this)),
-      m_progressTimer(new QTimer(this)), m_lengths(new LengthReading(this)) {
+    : TavTableWidget(parent), m_thumbTimer(new QTimer(this)),
+      m_progress(new QProgressBar(horizontalHeader())), m_progressTimer(new QTimer(this)),
+      m_lengths(new LengthReading(this)) {
     logInfo("[TavFileListItem]: Enter TavFileListItem class.");
     setColumnCount(ColumnCount);
     setContextMenuPolicy(Qt::CustomContextMenu);
@@ -95,6 +96,9 @@ void TavFileListItem::setupUi() {
     UiApplier::apply(m_progress, QStringLiteral("loadProgress"), progress,
                      progressStyleSheet(progress));
     m_progress->hide();
+    // The bar sits on the table's header, which shows only while lengths are read; its
+    // font gives the header its height.
+    horizontalHeader()->setFont(progress.font);
 
     const UiItem menu = ui.item(QStringLiteral("contextMenu"));
     m_menu = new QMenu(this);
@@ -653,8 +657,12 @@ void TavFileListItem::dropEvent(QDropEvent* event) {
 
 void TavFileListItem::resizeEvent(QResizeEvent* event) {
     TavTableWidget::resizeEvent(event);
-    m_progress->resize(width(), m_progress->height());
     scheduleThumbnails();
+}
+
+void TavFileListItem::updateGeometries() {
+    TavTableWidget::updateGeometries();
+    m_progress->setGeometry(horizontalHeader()->rect());
 }
 
 // ---- Lengths ----
@@ -713,8 +721,10 @@ void TavFileListItem::onFinishReadFileTime() {
 }
 
 void TavFileListItem::showProgress(bool show) {
-    m_progress->setVisible(show && m_progress->isEnabled());
-    setViewportMargins(0, m_progress->isVisible() ? m_progress->height() : 0, 0, 0);
+    const bool shown = show && m_progress->isEnabled();
+    horizontalHeader()->setVisible(shown);
+    m_progress->setVisible(shown);
+    m_progress->setGeometry(horizontalHeader()->rect());
 }
 
 // ---- Thumbnails ----

@@ -25,8 +25,8 @@ class TypeIconDelegate;
 // shows the row and emits doubleClickedItem(), which the main window connects to the
 // coordinator's checkFileReady().
 //
-// Lengths are read by a pool thread after a many-file load and arrive in chunks; a progress
-// bar in the list's top strip shows how far it got. Thumbnails (row tool tips) are made by
+// Lengths are read by pool threads after a many-file load and arrive in chunks; a progress
+// bar in the list's header strip shows how far it got. Thumbnails (row tool tips) are made by
 // an ItemInfoThread for the rows on screen, as they come into view.
 class TavFileListItem : public TavTableWidget {
     Q_OBJECT
@@ -106,6 +106,7 @@ protected:
     void dragMoveEvent(QDragMoveEvent* event) override;
     void dropEvent(QDropEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void updateGeometries() override;
 
 private slots:
     void onDeleteSelectedAtList();
