@@ -568,11 +568,8 @@ void TavFileListItem::keyPressEvent(QKeyEvent* event) {
     }
     switch (event->key()) {
     case Qt::Key_Control:
-        m_controlHeld = true;
-        onChangeSelectionMode();
-        break;
     case Qt::Key_Shift:
-        m_shiftHeld = true;
+        (event->key() == Qt::Key_Control ? m_controlHeld : m_shiftHeld) = true;
         onChangeSelectionMode();
         break;
     case Qt::Key_Delete:
@@ -581,11 +578,8 @@ void TavFileListItem::keyPressEvent(QKeyEvent* event) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
         // The keyboard's double click.
-        if (currentRow() >= 0 && !isRowHidden(currentRow()) &&
-            VLCComponent::playerState != VLCComponent::FileSet) {
-            emit onSendStop(1);
-            playItem(currentRow());
-        }
+        if (currentRow() >= 0 && !isRowHidden(currentRow()))
+            chooseRow(currentRow());
         return;
     default:
         break;
@@ -594,11 +588,8 @@ void TavFileListItem::keyPressEvent(QKeyEvent* event) {
 }
 
 void TavFileListItem::keyReleaseEvent(QKeyEvent* event) {
-    if (!m_blocked && event->key() == Qt::Key_Control) {
-        m_controlHeld = false;
-        onChangeSelectionMode();
-    } else if (!m_blocked && event->key() == Qt::Key_Shift) {
-        m_shiftHeld = false;
+    if (!m_blocked && (event->key() == Qt::Key_Control || event->key() == Qt::Key_Shift)) {
+        (event->key() == Qt::Key_Control ? m_controlHeld : m_shiftHeld) = false;
         onChangeSelectionMode();
     }
     TavTableWidget::keyReleaseEvent(event);
@@ -624,12 +615,16 @@ void TavFileListItem::mouseDoubleClickEvent(QMouseEvent* event) {
         onChangeSelectionMode();
         viewport()->update();
     }
-    const QTableWidgetItem* clicked = itemAt(event->pos());
+    if (const QTableWidgetItem* clicked = itemAt(event->pos()))
+        chooseRow(clicked->row());
+}
+
+void TavFileListItem::chooseRow(int row) {
     // While the engine is still taking a file, a second request would overlap it.
-    if (clicked != nullptr && VLCComponent::playerState != VLCComponent::FileSet) {
-        emit onSendStop(1);
-        playItem(clicked->row());
-    }
+    if (VLCComponent::playerState == VLCComponent::FileSet)
+        return;
+    emit onSendStop(1);
+    playItem(row);
 }
 
 void TavFileListItem::dragEnterEvent(QDragEnterEvent* event) {
@@ -711,13 +706,11 @@ void TavFileListItem::onLengthsFinished(qint64 elapsedMs) {
 
 void TavFileListItem::onFinishReadFileTime() {
     logInfo("onFinishReadFileTime");
-    for (int i = 0; i < records.size() && i < rowCount(); ++i) {
-        QTableWidgetItem* length = item(i, LengthColumn);
-        if (length == nullptr)
-            continue;
-        length->setText(records.at(i).durationText);
-        length->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    }
+    for (int i = 0; i < records.size() && i < rowCount(); ++i)
+        if (QTableWidgetItem* length = item(i, LengthColumn)) {
+            length->setText(records.at(i).durationText);
+            length->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        }
 }
 
 void TavFileListItem::showProgress(bool show) {
@@ -737,12 +730,10 @@ void TavFileListItem::scheduleThumbnails() {
 void TavFileListItem::requestThumbnails() {
     if (records.isEmpty() || rowCount() == 0)
         return;
-    int first = rowAt(0);
-    int last = rowAt(viewport()->height() - 1);
-    if (first < 0)
-        first = 0;
-    if (last < 0)
-        last = rowCount() - 1;
+    // The rows on screen; rowAt gives -1 above the first and below the last row.
+    const int first = qMax(0, rowAt(0));
+    const int bottom = rowAt(viewport()->height() - 1);
+    const int last = bottom < 0 ? rowCount() - 1 : bottom;
     QVector<ItemInfoThread::Job> jobs;
     auto ask = [&](int row) {
         if (row < 0 || row >= records.size() || isRowHidden(row))

@@ -129,6 +129,8 @@ private:
     int nextRow() const;
     int previousRow() const;
     void playItem(int index);
+    // A row chosen by double click or Enter: stops what plays, then plays the row.
+    void chooseRow(int row);
     QList<int> selectedRecordRows() const;
     void deleteSelected(bool fromDisk);
     void removeRows(QList<int> rows, bool fromDisk);
