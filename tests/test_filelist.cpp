@@ -391,6 +391,11 @@ private slots:
         QCOMPARE(TavFileListItem::currentIndex, 3);
         QCOMPARE(list.selectionModel()->selectedRows().size(), 1);
         QCOMPARE(list.selectionModel()->selectedRows().first().row(), 3);
+        // Enter plays the current row as a double click does.
+        list.setCurrentCell(1, TavFileListItem::NameColumn);
+        QTest::keyClick(&list, Qt::Key_Return);
+        QCOMPARE(chosen.count(), 2);
+        QCOMPARE(PlayerInterface::currentFile, paths.at(1));
     }
 
     void modifierKeysChooseTheSelectionMode() {
