@@ -701,6 +701,7 @@ void TavFileListItem::onLengthsRead(int first, const QStringList& texts) {
 void TavFileListItem::onLengthsFinished(qint64 elapsedMs) {
     logInfo("getFileTime elapsed time: %lld ms", static_cast<long long>(elapsedMs));
     showProgress(false);
+    scheduleThumbnails();
     emit onSendFinishReadFileTime();
 }
 
@@ -728,7 +729,8 @@ void TavFileListItem::scheduleThumbnails() {
 }
 
 void TavFileListItem::requestThumbnails() {
-    if (records.isEmpty() || rowCount() == 0)
+    // Lengths go first (a column, not a tool tip); the end of their reading asks again.
+    if (records.isEmpty() || rowCount() == 0 || m_lengths->isReading())
         return;
     // The rows on screen; rowAt gives -1 above the first and below the last row.
     const int first = qMax(0, rowAt(0));
