@@ -1,5 +1,7 @@
 #pragma once
 
+#include "VlcCompat.h"
+
 #include <array>
 
 // Estimates how far a rear channel runs from the front channel from repeated readings of
@@ -24,8 +26,10 @@ public:
 
     // A drift this large is visible at once: seek without waiting for a full window.
     static constexpr double kSeekDriftMs = 400.0;
-    // Mean drifts within this count as in step.
-    static constexpr double kInStepMs = 20.0;
+    // Mean drifts within this count as in step. Readings finer than the players report
+    // their time cannot be acted on: nudging on them only moves pictures that were in step.
+    static constexpr double kInStepMs =
+        VlcCompat::kTimeResolutionMs > 40 ? VlcCompat::kTimeResolutionMs / 2.0 : 20.0;
     // Largest rate change used to close a drift, and the time over which it is closed.
     static constexpr double kMaxNudge = 0.05;
     static constexpr double kCatchUpMs = 4000.0;

@@ -10,6 +10,7 @@
 #include <QWidget>
 
 #include <cmath>
+#include <cstdlib>
 #include <cstring>
 
 int VLCComponent::channelCount = 0;
@@ -464,8 +465,15 @@ void VLCComponent::onEvent(const libvlc_event_t* event, void* self) {
 void VLCComponent::pullRearChannelsToFront() {
     const libvlc_time_t front = libvlc_media_player_get_time(m_players[0]);
     logInfo("!@# time3 = %lld", static_cast<long long>(front));
-    for (int i = 1; i < channelCount && i < kMaxChannels; ++i)
-        VlcCompat::setTime(m_players[i], front, false);
+    for (int i = 1; i < channelCount && i < kMaxChannels; ++i) {
+        if (needsPull(i, front))
+            VlcCompat::setTime(m_players[i], front, false);
+    }
+}
+
+bool VLCComponent::needsPull(int channel, libvlc_time_t front) const {
+    const libvlc_time_t rear = libvlc_media_player_get_time(m_players[channel]);
+    return std::llabs(static_cast<long long>(rear - front)) >= VlcCompat::kTimeResolutionMs;
 }
 
 void VLCComponent::applyFirstPicture() {
@@ -482,7 +490,7 @@ void VLCComponent::applyFirstPicture() {
             VlcCompat::selectVideoTrack(m_players[i], i) != 0)
             m_trackPending |= 1 << i;
         libvlc_media_player_set_rate(m_players[i], 1.0f);
-        if (i > 0)
+        if (i > 0 && needsPull(i, front))
             VlcCompat::setTime(m_players[i], front, true);
     }
     if (m_trackPending != 0) {

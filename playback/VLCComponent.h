@@ -113,6 +113,8 @@ private:
 
     void SetSplitChannelFiles(const char* path);
     bool stoppingOrStopped() const;
+    // Whether a rear player is measurably off the front player's time.
+    bool needsPull(int channel, libvlc_time_t front) const;
     void resetDriftEstimates();
 
     libvlc_instance_t* m_instance = nullptr;

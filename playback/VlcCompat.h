@@ -46,6 +46,12 @@ public:
     // precisely.
     static void setTime(libvlc_media_player_t* player, int64_t ms, bool fast);
 
+    // How finely a player reports its time. libvlc 3.0 reports the demuxer's position, which
+    // moves in steps of about a quarter of a second; two players in step can differ by that
+    // much. Pulling a player to another's time by less than this only adds the error of the
+    // reading.
+    static constexpr int kTimeResolutionMs = LIBVLC_VERSION_MAJOR >= 4 ? 0 : 300;
+
     // The native window the player draws into: an HWND on Windows, an X11 window elsewhere.
     static void setWindow(libvlc_media_player_t* player, uintptr_t window);
     static uintptr_t window(libvlc_media_player_t* player);
