@@ -22,6 +22,7 @@ double PlayerInterface::totalTime = 0;
 int PlayerInterface::playChannelCount = 0;
 bool PlayerInterface::flipState[3] = {false, false, false};
 int PlayerInterface::volume = 100;
+int PlayerInterface::speedIndex = 2;
 bool PlayerInterface::muted = false;
 bool PlayerInterface::stopRequested = false;
 bool PlayerInterface::playRequested = false;
@@ -258,6 +259,7 @@ void PlayerInterface::onSetComplete() {
     if (totalTime == 0)
         totalTime = m_engine->GetTotalTime();
     playStatus = PlayRunning;
+    speedIndex = 2;
     emit onSendSetPlayButton();
 }
 
@@ -503,7 +505,13 @@ void PlayerInterface::onFullScreen() {
 
 void PlayerInterface::onControlSpeed(double speedNum) {
     logDebug("PlayerInterface::onControlSpeed");
-    m_engine->SetSpeed(speedNum);
+    // The panel sends a speed index: 1 half, 2 normal, 3 one and a half, 4 double.
+    static const double rates[] = {0.5, 1.0, 1.5, 2.0};
+    const int index = int(speedNum);
+    if (index < 1 || index > 4 || index != speedNum)
+        return;
+    speedIndex = index;
+    m_engine->SetSpeed(rates[index - 1]);
 }
 
 void PlayerInterface::onControlVolume(int value) {

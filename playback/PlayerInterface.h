@@ -31,6 +31,8 @@ public:
     static int playChannelCount;
     static bool flipState[3];
     static int volume;
+    // 1 = 0.5x, 2 = 1.0x (set when a recording starts), 3 = 1.5x, 4 = 2.0x.
+    static int speedIndex;
     static bool muted;
     static bool stopRequested;
     static bool playRequested;

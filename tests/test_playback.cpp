@@ -225,14 +225,17 @@ private slots:
 
     void doubleSpeedPlaysFaster() {
         open(kSplit);
-        m_player->onControlSpeed(2.0);
+        m_player->onControlSpeed(7); // not a speed: ignored
+        QCOMPARE(PlayerInterface::speedIndex, 2);
+        m_player->onControlSpeed(4); // double speed
         QTest::qWait(400);
         const double start = engine()->GetCurrentPos();
         QTest::qWait(1500);
         const double advanced = engine()->GetCurrentPos() - start;
         // 1.5 s at double speed; the player's clock moves in steps of about 250 ms.
         QVERIFY2(advanced > 2300, qPrintable(QString::number(advanced)));
-        m_player->onControlSpeed(1.0);
+        QCOMPARE(PlayerInterface::speedIndex, 4);
+        m_player->onControlSpeed(2);
     }
 
     void playsToTheEndThenAsksForTheNext() {
