@@ -15,6 +15,7 @@
 #include <QSocketNotifier>
 #include <QSplashScreen>
 #include <QStandardPaths>
+#include <QTimer>
 #include <QTranslator>
 
 namespace {
@@ -100,6 +101,10 @@ int AppStartup::run(int& argc, char** argv) {
     window->show();
     splash->finish(window);
     delete splash;
+    // Paths on the command line open as a drop would, once the window is up.
+    const QStringList paths = QCoreApplication::arguments().mid(1);
+    if (!paths.isEmpty())
+        QTimer::singleShot(0, window, [window, paths] { window->openPaths(paths); });
 
     const int exitCode = QApplication::exec();
     delete frameless;

@@ -4,18 +4,27 @@
 #include "AppGlobals.h"
 #include "LanguageView.h"
 #include "LeftSideView.h"
+#include "PlayScreenWindow.h"
 #include "PlayerInterface.h"
 #include "RightSideView.h"
 #include "StatusLog.h"
+#include "SubPlayerWindow.h"
+#include "SubSceneBackWidget.h"
+#include "TavFileComboBox.h"
+#include "TavFileListItem.h"
 #include "TavShortcutTable.h"
+#include "TavTypeList.h"
 #include "TavWidget.h"
 #include "TopBar.h"
 #include "WaitPlayLogo.h"
 
 #include <QDir>
+#include <QDragEnterEvent>
+#include <QDropEvent>
 #include <QFile>
 #include <QGuiApplication>
 #include <QKeyEvent>
+#include <QMimeData>
 #include <QPushButton>
 #include <QScreen>
 #include <QSettings>
@@ -62,6 +71,7 @@ MainWindow::~MainWindow() {
     logInfo("[MainWindow]: Delete Thumbs...");
     removeDataFolderLeftovers();
     logInfo("Destruct complete!");
+    emit onSendStopItemThread();
 
     // The coordinator stops its engine before the scenes it draws into go away.
     delete m_player;
@@ -132,13 +142,40 @@ void MainWindow::setupUi() {
     m_fileListButton->setCheckable(true);
     m_fileListButton->setFocusPolicy(Qt::NoFocus);
 
+    m_fileList = new TavFileListItem(m_central);
+    m_central->addChild(m_fileList, "fileList", TavWidget::Style::None);
+    m_fileCombo = new TavFileComboBox(m_central);
+    m_central->addChild(m_fileCombo, "cbfileState", TavWidget::Style::None);
+    m_typeList = new TavTypeList(m_central);
+    m_central->addChild(m_typeList, "lFileType", TavWidget::Style::None);
+    m_typeList->hide(); // a pop-up: shown from the combo
+
     m_stack = new QStackedWidget(m_central);
     m_central->addChild(m_stack, "StackedWidget", TavWidget::Style::None);
     m_logo = new WaitPlayLogo(m_stack);
     m_stack->addWidget(m_logo);
     m_logo->setObjectName("WaitPlayLogo");
+    m_playScreen = new PlayScreenWindow(m_stack);
+    m_stack->addWidget(m_playScreen);
+    m_playScreen->setObjectName("PlayScreenView");
+    m_stack->setCurrentWidget(m_logo);
+
+    // The rear scenes float over the main scene on their own backing.
+    m_subBack = new SubSceneBackWidget(m_central);
+    if (m_central->addChild(m_subBack, "subSceneBackWidget", TavWidget::Style::None))
+        m_subBack->setHomePosition(m_subBack->pos());
+    const char* const subEntries[] = {"subPlayer1", "subPlayer2"};
+    for (int i = 0; i < 2; ++i) {
+        m_subPlayers[i] = new SubPlayerWindow(i + 1, m_subBack);
+        m_subBack->addChild(m_subPlayers[i], subEntries[i], TavWidget::Style::None);
+        m_subPlayers[i]->setObjectName(QString("subPlayerWindow%1").arg(i + 1));
+    }
+    m_subBack->hide();
 
     m_player = new PlayerInterface(this);
+    m_player->setMainScreen(m_playScreen->scene());
+    m_player->setSub1Screen(m_subPlayers[0]->scene());
+    m_player->setSub2Screen(m_subPlayers[1]->scene());
 
     m_central->retranslate();
     QMetaObject::connectSlotsByName(this);
@@ -164,6 +201,81 @@ void MainWindow::connectViews() {
                 &MainWindow::openLangaugeDlg);
         connect(this, &MainWindow::onSendChangeLanguage, m_shortcuts,
                 &TavShortcutTable::onChangeToolTipLanguage);
+    }
+    connect(m_player, &PlayerInterface::onSendShowWindow, this, &MainWindow::onShowPlayWindow);
+    if (enabled("fileList")) {
+        connect(m_fileList, &TavFileListItem::doubleClickedItem, m_player,
+                &PlayerInterface::checkFileReady);
+        connect(m_fileList, &TavFileListItem::onSendStop, m_player, &PlayerInterface::onStop);
+        connect(m_fileList, &TavFileListItem::onSendLogoSet, this, &MainWindow::onShowLogo);
+        connect(m_fileList, &TavFileListItem::onSetBlockEvent, this, &MainWindow::onBlockEvent);
+        connect(m_player, &PlayerInterface::onSendFileAllDelete, m_fileList,
+                &TavFileListItem::onDeleteAllFileAtList);
+        connect(this, &MainWindow::onSendBlockEvent, m_fileList, &TavFileListItem::onBlockEvent);
+        connect(this, &MainWindow::onSendStopItemThread, m_fileList,
+                &TavFileListItem::onSendThreadStop);
+        connect(m_fileList, &TavFileListItem::onSendFinishReadFileTime, m_fileList,
+                &TavFileListItem::onFinishReadFileTime);
+        connect(this, &MainWindow::onSendChangeLanguage, m_fileList,
+                &TavFileListItem::onChangeLanguage);
+        // End of a recording: the next visible row; the previous one on a step back at 0.
+        connect(m_player, &PlayerInterface::onSendPlayNextFile, m_fileList,
+                &TavFileListItem::onForwardItemSet);
+        connect(m_player, &PlayerInterface::onSendPlayPreviusFile, m_fileList,
+                [this] { m_fileList->onChangePlayItem(0); });
+        if (enabled("shortcutTable")) {
+            connect(m_shortcuts, &TavShortcutTable::onSendSignalFolder, m_fileList,
+                    &TavFileListItem::onOpenFolderDlg);
+            connect(m_shortcuts, &TavShortcutTable::onSendSignalFile, m_fileList,
+                    &TavFileListItem::recvReqFileOpen);
+        }
+    }
+    if (enabled("cbfileState") && enabled("lFileType")) {
+        connect(m_fileCombo, &TavFileComboBox::onSendTypeListControl, m_typeList,
+                &TavTypeList::onControlTypeList);
+        connect(m_typeList, &TavTypeList::onSendCurrentType, m_fileCombo,
+                &TavFileComboBox::onUpdateSetData);
+        connect(m_typeList, &TavTypeList::onSendTypeListSet, m_fileCombo,
+                &TavFileComboBox::onUpdateListState);
+        connect(this, &MainWindow::onSendHideTypeList, m_typeList, &TavTypeList::onHideTypeList);
+        connect(this, &MainWindow::onSendChangeLanguage, m_fileCombo,
+                &TavFileComboBox::onChangeLanguage);
+        connect(this, &MainWindow::onSendChangeLanguage, m_typeList,
+                &TavTypeList::onChangeLanguage);
+        if (enabled("fileList")) {
+            connect(m_fileList, &TavFileListItem::onSendHideTypeList, m_typeList,
+                    &TavTypeList::onHideTypeList);
+            connect(m_fileList, &TavFileListItem::onSendRefreshFilter, m_fileCombo,
+                    &TavFileComboBox::onUpdateList);
+            connect(m_fileCombo, &TavFileComboBox::onSendFileTypeFilter, m_fileList,
+                    &TavFileListItem::onSortFile);
+        }
+    }
+    if (enabled("StackedWidget")) {
+        connect(m_player, &PlayerInterface::onTimeout_1s, m_playScreen,
+                &PlayScreenWindow::onSetZoom);
+        connect(this, &MainWindow::onSendZoomReset, m_playScreen, &PlayScreenWindow::onResetZoom);
+        connect(m_player, &PlayerInterface::onSendZoomReset, m_playScreen,
+                &PlayScreenWindow::onResetZoom);
+        connect(m_playScreen, &PlayScreenWindow::sendVideoResize, m_player,
+                &PlayerInterface::onResizeVideo);
+        connect(m_playScreen, &PlayScreenWindow::sceneDoubleClicked, this,
+                &MainWindow::onRecvFullScreen);
+    }
+    if (enabled("subSceneBackWidget")) {
+        for (SubPlayerWindow* sub : m_subPlayers) {
+            if (!m_subBack->isEnabledChild(sub == m_subPlayers[0] ? "subPlayer1" : "subPlayer2"))
+                continue;
+            connect(m_player, &PlayerInterface::onInitResizeView, sub,
+                    &SubPlayerWindow::onResetView);
+            connect(sub, &SubPlayerWindow::sendVideoResize, m_player,
+                    &PlayerInterface::onResizeVideo);
+            connect(sub, &SubPlayerWindow::onClickedFlip, m_player, &PlayerInterface::onFlip);
+        }
+        connect(m_subBack, &SubSceneBackWidget::onSendBlockKeyboardEvent, this,
+                &MainWindow::onBlockKeyboardEvent);
+        connect(m_player, &PlayerInterface::onSendClear, m_subBack,
+                &SubSceneBackWidget::ClearPosition);
     }
     if (enabled("bFilelist"))
         connect(m_fileListButton, &QPushButton::clicked, this, &MainWindow::onRaiseFilelist);
@@ -231,8 +343,60 @@ void MainWindow::changeEvent(QEvent* event) {
 
 void MainWindow::onShowLogo(bool show) {
     logDebug("MainWindow::onShowLogo");
-    if (show)
-        m_stack->setCurrentWidget(m_logo);
+    m_stack->setCurrentWidget(show ? static_cast<QWidget*>(m_logo) : m_playScreen);
+    m_subBack->setVisible(!show && m_channels > 1 && enabled("subSceneBackWidget"));
+    if (m_subBack->isVisible())
+        m_subBack->raise();
+}
+
+void MainWindow::onShowPlayWindow(int channels) {
+    logDebug("MainWindow::onShowPlayWindow");
+    m_channels = channels;
+    // The scenes are ready before the first picture: libvlc draws into them from the start.
+    m_stack->setCurrentWidget(m_playScreen);
+    for (SubPlayerWindow* sub : m_subPlayers)
+        sub->setVisible(channels > sub->id());
+    m_subBack->setVisible(channels > 1 && enabled("subSceneBackWidget"));
+    if (m_subBack->isVisible())
+        m_subBack->raise();
+}
+
+void MainWindow::onBlockKeyboardEvent(bool block) {
+    logDebug("MainWindow::onBlockKeyboardEvent");
+    m_blockKeyboard = block;
+}
+
+void MainWindow::openPaths(const QStringList& paths) {
+    logDebug("MainWindow::openPaths");
+    if (paths.isEmpty() || !enabled("fileList"))
+        return;
+    m_fileList->loadPaths(paths);
+    if (!TavFileListItem::visibleRows.isEmpty())
+        m_fileList->onSetFirstFile();
+}
+
+void MainWindow::mousePressEvent(QMouseEvent* event) {
+    // A click anywhere else closes the type pop-up.
+    emit onSendHideTypeList();
+    QMainWindow::mousePressEvent(event);
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
+    if (!m_blockEvent && event->mimeData()->hasUrls())
+        event->acceptProposedAction();
+}
+
+void MainWindow::dropEvent(QDropEvent* event) {
+    QStringList paths;
+    for (const QUrl& url : event->mimeData()->urls()) {
+        if (url.isLocalFile())
+            paths << url.toLocalFile();
+    }
+    if (!paths.isEmpty() && enabled("fileList")) {
+        logInfo("[TavFileListItem]: items are dropped in list.");
+        m_fileList->loadPaths(paths);
+    }
+    event->acceptProposedAction();
 }
 
 void MainWindow::onBlockEvent(bool block) {
@@ -252,7 +416,7 @@ void MainWindow::onRaiseFilelist() {
 }
 
 void MainWindow::keyPressEvent(QKeyEvent* event) {
-    if (m_blockEvent) {
+    if (m_blockEvent || m_blockKeyboard) {
         event->ignore();
         return;
     }

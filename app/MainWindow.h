@@ -5,7 +5,13 @@
 #include <QSize>
 
 class LeftSideView;
+class PlayScreenWindow;
 class PlayerInterface;
+class SubPlayerWindow;
+class SubSceneBackWidget;
+class TavFileComboBox;
+class TavFileListItem;
+class TavTypeList;
 class QPushButton;
 class QStackedWidget;
 class RightSideView;
@@ -33,8 +39,15 @@ public:
 
     PlayerInterface* player() const { return m_player; }
 
+    // Files and folders given on the command line: listed as a drop would list them, and
+    // the first recording plays.
+    void openPaths(const QStringList& paths);
+
 signals:
     void onSendAlwaysTopUiChange(int state);
+    void onSendHideTypeList();
+    void onSendStopItemThread();
+    void onSendZoomReset();
     void onSendChangeLanguage();
     void onSendBlockEvent(bool block);
 
@@ -48,6 +61,8 @@ public slots:
     void onFixedTopScreen();
     void onShowLogo(bool show);
     void onBlockEvent(bool block);
+    void onShowPlayWindow(int channels);
+    void onBlockKeyboardEvent(bool block);
     void onShowFilelist();
     void onRaiseFilelist();
     void openLangaugeDlg();
@@ -56,6 +71,9 @@ public slots:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
     void changeEvent(QEvent* event) override;
 
 private:
@@ -75,11 +93,19 @@ private:
     QStackedWidget* m_stack = nullptr;
     WaitPlayLogo* m_logo = nullptr;
     QPushButton* m_fileListButton = nullptr;
+    TavFileListItem* m_fileList = nullptr;
+    TavFileComboBox* m_fileCombo = nullptr;
+    TavTypeList* m_typeList = nullptr;
+    PlayScreenWindow* m_playScreen = nullptr;
+    SubSceneBackWidget* m_subBack = nullptr;
+    SubPlayerWindow* m_subPlayers[2] = {nullptr, nullptr};
     PlayerInterface* m_player = nullptr;
 
     bool m_agreementAccepted = false;
     bool m_saveSettings = true;
     bool m_blockEvent = false;
+    bool m_blockKeyboard = false;
+    int m_channels = 0;
     QSize m_screenSize;
     QRect m_availableGeometry;
     QSize m_availableSize;
