@@ -1,0 +1,113 @@
+// The whole way a user plays recordings, on the real main window with real libvlc: paths
+// given on the command line are listed and the first plays in its scenes, each camera in
+// its own scene; the end of a recording moves to the next row the type filter shows; the
+// playing row is deleted.
+#include "AppGlobals.h"
+#include "MainWindow.h"
+#include "PlayScreenWindow.h"
+#include "PlayerInterface.h"
+#include "SubPlayerWindow.h"
+#include "TavFileListItem.h"
+#include "TopBar.h"
+#include "VLCComponent.h"
+
+#include <QGuiApplication>
+#include <QScreen>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QTranslator>
+#include <QtTest>
+
+namespace {
+const QString kMedia = QStringLiteral(PLAYBACK_MEDIA);
+
+// The colour on screen in the middle of a widget.
+QRgb screenColour(QWidget* widget) {
+    const QPoint centre =
+        widget->mapToGlobal(widget->rect().center() + QPoint(0, widget->height() / 4));
+    const QImage screen = QGuiApplication::primaryScreen()->grabWindow(0).toImage();
+    return screen.pixel(centre);
+}
+bool isRed(QRgb c) {
+    return qRed(c) > 150 && qGreen(c) < 100 && qBlue(c) < 100;
+}
+bool isGreen(QRgb c) {
+    return qGreen(c) > 150 && qRed(c) < 100 && qBlue(c) < 100;
+}
+bool isBlue(QRgb c) {
+    return qBlue(c) > 150 && qRed(c) < 100 && qGreen(c) < 100;
+}
+} // namespace
+
+class TestPlaythrough : public QObject {
+    Q_OBJECT
+
+    QTemporaryDir m_dir;
+    MainWindow* m_window = nullptr;
+    TavFileListItem* m_list = nullptr;
+
+    void waitForPicture() {
+        QTRY_VERIFY_WITH_TIMEOUT(PlayerInterface::playStatus == PlayerInterface::PlayRunning &&
+                                     VLCComponent::playerState == VLCComponent::Playing,
+                                 15000);
+    }
+
+private slots:
+    void initTestCase() {
+        AppGlobals::dataFolder = m_dir.path();
+        AppGlobals::programFolder = QCoreApplication::applicationDirPath();
+        AppGlobals::resourcesFolder = AppGlobals::programFolder + "/Resources";
+        AppGlobals::settings = new QSettings(m_dir.filePath("settings.ini"), QSettings::IniFormat);
+        AppGlobals::settings->setValue("agreement", "1");
+        AppGlobals::translator = new QTranslator;
+        m_window = new MainWindow;
+        m_window->move(0, 0);
+        m_window->show();
+        QVERIFY(QTest::qWaitForWindowExposed(m_window));
+        m_list = m_window->findChild<TavFileListItem*>();
+        QVERIFY(m_list);
+    }
+
+    void cleanupTestCase() { delete m_window; }
+
+    void commandLineFolderPlaysTheFirstRecording() {
+        m_window->openPaths({kMedia});
+        QCOMPARE(TavFileListItem::records.size(), 6);
+        QVERIFY(PlayerInterface::currentFile.endsWith("20240301_090000_INF_1.mp4"));
+        waitForPicture();
+        QCOMPARE(m_window->findChild<TopBar*>()->fileName(), QString("20240301_090000_INF_1.mp4"));
+
+        // Each camera in its own scene, as the user sees it.
+        auto* main = m_window->findChild<PlayScreenWindow*>();
+        auto* rear1 = m_window->findChild<SubPlayerWindow*>("subPlayerWindow1");
+        auto* rear2 = m_window->findChild<SubPlayerWindow*>("subPlayerWindow2");
+        QTRY_VERIFY(rear2->isVisible());
+        QTRY_VERIFY_WITH_TIMEOUT(isRed(screenColour(main)), 3000);
+        QTRY_VERIFY_WITH_TIMEOUT(isGreen(screenColour(rear1)), 3000);
+        QTRY_VERIFY_WITH_TIMEOUT(isBlue(screenColour(rear2)), 3000);
+    }
+
+    void endOfFileSkipsRowsTheFilterHides() {
+        // Event and User only: the two other Infinity rows are hidden while the first plays.
+        m_list->onSortFile(2 | 8);
+        QCOMPARE(m_list->currentPosition(), -1);
+        QTRY_VERIFY_WITH_TIMEOUT(PlayerInterface::currentFile.endsWith("20240301_091000_EVT_1.mp4"),
+                                 15000);
+        waitForPicture();
+        QCOMPARE(VLCComponent::channelCount, 2);
+    }
+
+    void deletingThePlayingRowStopsIt() {
+        const int rows = TavFileListItem::records.size();
+        m_list->onDeleteCurrentFile();
+        QTRY_COMPARE_WITH_TIMEOUT(VLCComponent::playerState, int(VLCComponent::Stopped), 10000);
+        QVERIFY(PlayerInterface::playStatus != PlayerInterface::PlayRunning);
+        QCOMPARE(TavFileListItem::records.size(), rows - 1);
+        for (const auto& record : TavFileListItem::records)
+            QVERIFY(!record.fileName.endsWith("091000_EVT_1.mp4"));
+        QVERIFY(QFile::exists(kMedia + "/20240301_091000_EVT_1.mp4")); // only off the list
+    }
+};
+
+QTEST_MAIN(TestPlaythrough)
+#include "test_playthrough.moc"
