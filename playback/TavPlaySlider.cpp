@@ -1,0 +1,105 @@
+#include "TavPlaySlider.h"
+
+#include "PlayerInterface.h"
+#include "UiItem.h"
+
+#include <QMouseEvent>
+#include <QStyle>
+#include <QStyleOptionSlider>
+
+namespace {
+
+QString stateColour(const UiItem& item, UiItem::State state, const char* fallback) {
+    const QString& colour = item.color[state];
+    return colour.isEmpty() || colour == QLatin1String("none") ? QLatin1String(fallback) : colour;
+}
+
+} // namespace
+
+TavPlaySlider::TavPlaySlider(QWidget* parent) : QSlider(Qt::Horizontal, parent) {
+    setFocusPolicy(Qt::NoFocus);
+    setRange(0, 0);
+    setCursor(Qt::PointingHandCursor);
+}
+
+bool TavPlaySlider::acceptsInput() const {
+    if (parentWidget() == nullptr || parentWidget()->objectName() != QLatin1String("row2Widget"))
+        return true;
+    return PlayerInterface::playStatus == PlayerInterface::PlayRunning ||
+           PlayerInterface::playStatus == PlayerInterface::PlayPaused;
+}
+
+int TavPlaySlider::valueAt(const QPoint& point) const {
+    QStyleOptionSlider option;
+    initStyleOption(&option);
+    const QRect groove =
+        style()->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderGroove, this);
+    const QRect handle =
+        style()->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, this);
+    // The handle's centre travels from half a handle inside the groove's left end to half
+    // a handle inside its right end.
+    const int span = groove.width() - handle.width();
+    const int offset = point.x() - groove.x() - handle.width() / 2;
+    return QStyle::sliderValueFromPosition(minimum(), maximum(), qBound(0, offset, span), span,
+                                           option.upsideDown);
+}
+
+void TavPlaySlider::mousePressEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton) {
+        event->ignore();
+        return;
+    }
+    // A refused press is still the slider's: passed on, it would start a window drag.
+    event->accept();
+    if (!acceptsInput() || maximum() <= minimum())
+        return;
+    m_dragging = true;
+    setSliderDown(true);
+    setSliderPosition(valueAt(event->pos()));
+}
+
+void TavPlaySlider::mouseMoveEvent(QMouseEvent* event) {
+    if (!m_dragging) {
+        event->ignore();
+        return;
+    }
+    setSliderPosition(valueAt(event->pos()));
+    event->accept();
+}
+
+void TavPlaySlider::mouseReleaseEvent(QMouseEvent* event) {
+    if (!m_dragging || event->button() != Qt::LeftButton) {
+        event->ignore();
+        return;
+    }
+    m_dragging = false;
+    setSliderPosition(valueAt(event->pos()));
+    setSliderDown(false);
+    event->accept();
+}
+
+void TavPlaySlider::wheelEvent(QWheelEvent* event) {
+    event->ignore();
+}
+
+void TavPlaySlider::keyPressEvent(QKeyEvent* event) {
+    event->ignore();
+}
+
+QString TavPlaySlider::styleSheet(const UiItem& item) {
+    const QString groove = stateColour(item, UiItem::Default, "#3a4150");
+    const QString played = stateColour(item, UiItem::Select, "#2f7cf6");
+    const QString handle = stateColour(item, UiItem::Normal, "#ffffff");
+    const QString handleHover = stateColour(item, UiItem::Hover, "#ffffff");
+    const QString disabled = stateColour(item, UiItem::Disable, "#4a5263");
+    return QStringLiteral(
+               "TavPlaySlider{background: transparent; border: none;} "
+               "TavPlaySlider::groove:horizontal{height: 4px; border-radius: 2px; background: %1;} "
+               "TavPlaySlider::add-page:horizontal{border-radius: 2px; background: %1;} "
+               "TavPlaySlider::sub-page:horizontal{border-radius: 2px; background: %2;} "
+               "TavPlaySlider::sub-page:horizontal:disabled{background: %5;} "
+               "TavPlaySlider::handle:horizontal{width: 12px; margin: -4px 0px; border-radius: "
+               "6px; background: %3;} "
+               "TavPlaySlider::handle:horizontal:hover{background: %4;}")
+        .arg(groove, played, handle, handleHover, disabled);
+}

@@ -1,0 +1,505 @@
+// The play control panel driven through its own widgets: time texts, play/pause and steps
+// by play status, the step unit, speeds, sound and volume, the position slider, blocked
+// input, and the slider following a real recording played by the coordinator.
+#include "AppGlobals.h"
+#include "PlayControlView.h"
+#include "PlayerInterface.h"
+#include "TavPlayButton.h"
+#include "TavPlaySlider.h"
+#include "TavVolumeProgressBar.h"
+#include "VLCComponent.h"
+
+#include <QLabel>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QtTest>
+
+namespace {
+
+const QString kMedia = QStringLiteral(PLAYBACK_MEDIA);
+const QString kRecording = kMedia + "/20240301_090000_INF_1.mp4"; // three channels, 5 s
+
+void mouse(QWidget* widget, QEvent::Type type, const QPoint& at) {
+    const Qt::MouseButtons held =
+        type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton;
+    QMouseEvent event(type, at, widget->mapToGlobal(at), Qt::LeftButton, held, Qt::NoModifier);
+    QApplication::sendEvent(widget, &event);
+}
+
+// A point at a share of a widget's width, on its middle line.
+QPoint at(QWidget* widget, double share) {
+    return QPoint(int(share * (widget->width() - 1)), widget->height() / 2);
+}
+
+void setStatus(int status) {
+    PlayerInterface::playStatus = status;
+}
+
+} // namespace
+
+class TestPlayControl : public QObject {
+    Q_OBJECT
+
+    QTemporaryDir m_data;
+    PlayControlView* m_panel = nullptr;
+
+    template <typename T = QPushButton> T* child(const char* name) const {
+        T* found = m_panel->findChild<T*>(QLatin1String(name));
+        if (found == nullptr)
+            qWarning("no child %s", name);
+        return found;
+    }
+    QString text(const char* label) const { return child<QLabel>(label)->text(); }
+    void click(const char* button) { QTest::mouseClick(child(button), Qt::LeftButton); }
+    TavPlayButton* play() const { return child<TavPlayButton>("bPlay"); }
+    TavPlaySlider* slider() const { return child<TavPlaySlider>("playBar"); }
+    TavVolumeProgressBar* volume() const { return child<TavVolumeProgressBar>("bVolumeBar"); }
+
+private slots:
+    void initTestCase() {
+        AppGlobals::dataFolder = m_data.path();
+        AppGlobals::volume = 40;
+        AppGlobals::mute = false;
+        m_panel = new PlayControlView;
+        m_panel->resize(m_panel->designSize());
+        m_panel->show();
+        QVERIFY(QTest::qWaitForWindowExposed(m_panel));
+    }
+
+    void cleanupTestCase() { delete m_panel; }
+
+    void init() {
+        setStatus(PlayerInterface::PlayIdle);
+        PlayerInterface::currentFile.clear();
+        PlayerInterface::currentTime = 0;
+        PlayerInterface::totalTime = 0;
+        m_panel->onBlockEvent(false);
+        m_panel->onClearUi();
+    }
+
+    void builtFromItsDescription() {
+        QCOMPARE(m_panel->designSize(), QSize(990, 96));
+        for (const char* name : {"bPlay", "bStop", "previous", "rewind", "fastForward", "forward",
+                                 "bUnit", "bCapture", "bDelete", "bFlip", "bSound"})
+            QVERIFY2(child(name) && child(name)->isVisible(), name);
+        QCOMPARE(slider()->parentWidget()->objectName(), QString("row2Widget"));
+        QVERIFY(volume()->isVisible());
+        QCOMPARE(m_panel->findChild<QWidget*>("chartView"), nullptr);
+        QCOMPARE(child("bHalfSpeed")->text(), QString("0.5x"));
+        QCOMPARE(child("bDefaultSpeed")->text(), QString("1x"));
+        QCOMPARE(child("bDefHalfSpeed")->text(), QString("1.5x"));
+        QCOMPARE(child("bDoubleSpeed")->text(), QString("2x"));
+        QCOMPARE(child("bUnit")->text(), QString("Sec"));
+        // The volume and mute saved at the last exit.
+        QCOMPARE(volume()->value(), 40);
+        QVERIFY(!m_panel->isMuted());
+        QCOMPARE(PlayerInterface::volume, 40);
+
+        // Wider windows stretch the slider, keep the right-hand buttons at the edge and the
+        // transport buttons together in the middle.
+        m_panel->resize(1290, 96);
+        QCOMPARE(slider()->width(), 830 + 300);
+        QCOMPARE(child("bDelete")->geometry().right(), 1290 - 13);
+        const int middle = play()->mapTo(m_panel, play()->rect().center()).x();
+        QVERIFY2(qAbs(middle - 645) < 8, qPrintable(QString::number(middle)));
+        QCOMPARE(child("rewind")->geometry().right() + 5, play()->x());
+        m_panel->resize(m_panel->designSize());
+    }
+
+    void timeTextsDropTheHours() {
+        PlayerInterface::totalTime = 3725000; // 1:02:05
+        m_panel->onloadTotalTime();
+        QCOMPARE(text("totalTime"), QString("02:05"));
+        QCOMPARE(slider()->maximum(), 3725000);
+
+        PlayerInterface::currentTime = 247999;
+        m_panel->onUpdateSlider();
+        QCOMPARE(text("playTime"), QString("04:07"));
+        QCOMPARE(slider()->value(), 247999);
+
+        // A time past the end is shown but leaves the slider where it was.
+        PlayerInterface::currentTime = 3726000;
+        m_panel->onUpdateSlider();
+        QCOMPARE(text("playTime"), QString("02:06"));
+        QCOMPARE(slider()->value(), 247999);
+
+        // A total that arrives after the start is taken up by the next tick.
+        PlayerInterface::totalTime = 59999;
+        PlayerInterface::currentTime = 1500;
+        m_panel->onUpdateSlider();
+        QCOMPARE(text("totalTime"), QString("00:59"));
+        QCOMPARE(slider()->maximum(), 59999);
+
+        emit m_panel->onSendClear();
+        QCOMPARE(text("playTime"), QString("00:00"));
+        QCOMPARE(text("totalTime"), QString("00:00"));
+        QCOMPARE(slider()->maximum(), 0);
+    }
+
+    void playButtonAsksByStatus() {
+        QSignalSpy playSpy(m_panel, &PlayControlView::onSendPlay);
+        QSignalSpy pauseSpy(m_panel, &PlayControlView::onClickedPause);
+
+        setStatus(PlayerInterface::PlayStopped);
+        PlayerInterface::currentFile = kRecording;
+        click("bPlay");
+        QVERIFY(!play()->isPlaying());
+        // Nothing chosen yet.
+        setStatus(PlayerInterface::PlayIdle);
+        PlayerInterface::currentFile.clear();
+        click("bPlay");
+        QCOMPARE(playSpy.count() + pauseSpy.count(), 0);
+        QVERIFY(!play()->isPlaying());
+
+        PlayerInterface::currentFile = kRecording;
+        click("bPlay");
+        QCOMPARE(playSpy.count(), 1);
+        QVERIFY(play()->isPlaying());
+
+        setStatus(PlayerInterface::PlayRunning);
+        click("bPlay");
+        QCOMPARE(pauseSpy.count(), 1);
+        QVERIFY(!play()->isPlaying());
+
+        // Playing on from a pause in frame steps goes back to five-second steps.
+        setStatus(PlayerInterface::PlayPaused);
+        click("bUnit");
+        QVERIFY(!m_panel->unitIsSeconds());
+        click("bPlay");
+        QCOMPARE(playSpy.count(), 2);
+        QCOMPARE(pauseSpy.count(), 1);
+        QVERIFY(play()->isPlaying());
+        QCOMPARE(child("bUnit")->text(), QString("Sec"));
+
+        // The pause the main window and the file list ask for.
+        setStatus(PlayerInterface::PlayRunning);
+        m_panel->onSetPause();
+        QCOMPARE(pauseSpy.count(), 2);
+        QVERIFY(!play()->isPlaying());
+        setStatus(PlayerInterface::PlayPaused);
+        m_panel->onSetPause();
+        QCOMPARE(pauseSpy.count(), 2);
+        m_panel->onSetPlayButton();
+        QVERIFY(play()->isPlaying());
+    }
+
+    void unitSwitchPausesAndStepsFollowIt() {
+        QSignalSpy pauseSpy(m_panel, &PlayControlView::onClickedPause);
+        QSignalSpy seconds(m_panel, &PlayControlView::onClicked5sMove);
+        QSignalSpy frames(m_panel, &PlayControlView::onClickMoveFrame);
+
+        setStatus(PlayerInterface::PlayRunning);
+        click("rewind");
+        click("fastForward");
+        QCOMPARE(seconds.count(), 2);
+        QCOMPARE(seconds.at(0).at(0).toBool(), false);
+        QCOMPARE(seconds.at(1).at(0).toBool(), true);
+
+        play()->setPlaying(true);
+        click("bUnit");
+        QCOMPARE(pauseSpy.count(), 1);
+        QVERIFY(!play()->isPlaying());
+        QCOMPARE(child("bUnit")->text(), QString("Frm"));
+
+        setStatus(PlayerInterface::PlayPaused);
+        click("fastForward");
+        click("rewind");
+        QCOMPARE(frames.count(), 2);
+        QCOMPARE(frames.at(0).at(0).toBool(), true);
+        QCOMPARE(frames.at(1).at(0).toBool(), false);
+        QCOMPARE(seconds.count(), 2);
+
+        // Back to seconds; paused already, so no second pause.
+        click("bUnit");
+        QCOMPARE(pauseSpy.count(), 1);
+        QCOMPARE(child("bUnit")->text(), QString("Sec"));
+
+        // Nothing to step in.
+        for (int status : {int(PlayerInterface::PlayStopped), int(PlayerInterface::PlayIdle)}) {
+            setStatus(status);
+            click("fastForward");
+            click("rewind");
+        }
+        QCOMPARE(seconds.count(), 2);
+        QCOMPARE(frames.count(), 2);
+    }
+
+    void speedButtons() {
+        QSignalSpy speed(m_panel, &PlayControlView::onSendChangeSpeed);
+        QVERIFY(!child("bDefaultSpeed")->isEnabled());
+
+        click("bDoubleSpeed"); // idle: nothing to speed up
+        QCOMPARE(speed.count(), 0);
+
+        setStatus(PlayerInterface::PlayRunning);
+        click("bDefHalfSpeed");
+        QCOMPARE(speed.count(), 1);
+        QCOMPARE(speed.last().at(0).toInt(), 3);
+        QVERIFY(!child("bDefHalfSpeed")->isEnabled());
+        for (const char* other : {"bHalfSpeed", "bDefaultSpeed", "bDoubleSpeed"})
+            QVERIFY2(child(other)->isEnabled(), other);
+
+        // The speed in force, or no speed at all, asks nothing.
+        m_panel->onChangedSpeed(3);
+        m_panel->onChangedSpeed(0);
+        m_panel->onChangedSpeed(5);
+        QCOMPARE(speed.count(), 1);
+
+        click("bHalfSpeed");
+        QCOMPARE(speed.last().at(0).toInt(), 1);
+        QCOMPARE(m_panel->speedIndex(), 1);
+
+        // A new recording starts at normal speed.
+        m_panel->onSetPlayData();
+        QCOMPARE(m_panel->speedIndex(), 2);
+        QVERIFY(!child("bDefaultSpeed")->isEnabled());
+        QVERIFY(child("bHalfSpeed")->isEnabled());
+        QCOMPARE(speed.count(), 2);
+    }
+
+    void muteAndVolume() {
+        QSignalSpy mute(m_panel, &PlayControlView::onClickedMute);
+        QSignalSpy level(m_panel, &PlayControlView::onSendVolumeChange);
+
+        click("bSound");
+        QCOMPARE(mute.count(), 1);
+        QCOMPARE(mute.last().at(0).toBool(), true);
+        QVERIFY(child("bSound")->isChecked());
+        QVERIFY(AppGlobals::mute);
+        QCOMPARE(volume()->value(), 0);
+        m_panel->onSetPlayData(); // a new recording keeps the sound off
+        QCOMPARE(volume()->value(), 0);
+        click("bSound");
+        QCOMPARE(mute.last().at(0).toBool(), false);
+        QCOMPARE(volume()->value(), 40);
+
+        // Ends of the bar are 0 and 100; a click sets the volume where it lands.
+        QCOMPARE(volume()->volumeAt(0), 0);
+        QCOMPARE(volume()->volumeAt(volume()->width()), 100);
+        QCOMPARE(volume()->volumeAt(-20), 0);
+        mouse(volume(), QEvent::MouseButtonPress, at(volume(), 0.75));
+        mouse(volume(), QEvent::MouseButtonRelease, at(volume(), 0.75));
+        QVERIFY(qAbs(level.last().at(0).toInt() - 75) <= 1);
+        QCOMPARE(AppGlobals::volume, level.last().at(0).toInt());
+
+        // A drag follows the mouse; picking a volume while muted turns the sound on.
+        click("bSound");
+        mute.clear();
+        mouse(volume(), QEvent::MouseButtonPress, at(volume(), 0.5));
+        mouse(volume(), QEvent::MouseMove, at(volume(), 0.3));
+        mouse(volume(), QEvent::MouseMove, at(volume(), 0.2));
+        mouse(volume(), QEvent::MouseButtonRelease, at(volume(), 0.2));
+        QCOMPARE(mute.count(), 1);
+        QCOMPARE(mute.last().at(0).toBool(), false);
+        QVERIFY(!m_panel->isMuted() && !AppGlobals::mute);
+        QVERIFY(qAbs(level.last().at(0).toInt() - 20) <= 1);
+        QCOMPARE(volume()->value(), level.last().at(0).toInt());
+
+        level.clear();
+        m_panel->onStepVolume(+100);
+        QCOMPARE(level.last().at(0).toInt(), 100);
+        m_panel->onStepVolume(+5);
+        QCOMPARE(level.count(), 1); // already at the top
+
+        // The stored values put back, as after the settings are read.
+        AppGlobals::volume = 60;
+        AppGlobals::mute = true;
+        m_panel->onRefreshVolume();
+        QCOMPARE(level.last().at(0).toInt(), 60);
+        QCOMPARE(mute.last().at(0).toBool(), true);
+        QCOMPARE(volume()->value(), 0);
+        AppGlobals::mute = false;
+        m_panel->onRefreshVolume();
+        QCOMPARE(volume()->value(), 60);
+    }
+
+    void sliderSeeksOnReleaseWhilePlayingOrPaused() {
+        QSignalSpy position(m_panel, &PlayControlView::onChangePlayPosition);
+        QSignalSpy stopTimer(m_panel, &PlayControlView::onSendStopTimer);
+        PlayerInterface::totalTime = 10000;
+        m_panel->onloadTotalTime();
+        QCOMPARE(slider()->valueAt(at(slider(), 0.0)), 0);
+        QCOMPARE(slider()->valueAt(at(slider(), 1.0)), 10000);
+
+        for (int status : {int(PlayerInterface::PlayIdle), int(PlayerInterface::PlayStopped)}) {
+            setStatus(status);
+            mouse(slider(), QEvent::MouseButtonPress, at(slider(), 0.5));
+            mouse(slider(), QEvent::MouseButtonRelease, at(slider(), 0.5));
+        }
+        QCOMPARE(position.count(), 0);
+        QCOMPARE(slider()->value(), 0);
+
+        for (int status : {int(PlayerInterface::PlayPaused), int(PlayerInterface::PlayRunning)}) {
+            setStatus(status);
+            position.clear();
+            mouse(slider(), QEvent::MouseButtonPress, at(slider(), 0.5));
+            QVERIFY(qAbs(slider()->value() - 5000) < 200);
+            QCOMPARE(text("playTime"),
+                     slider()->value() < 5000 ? QString("00:04") : QString("00:05"));
+            // The player's ticks do not pull the handle from under the mouse.
+            PlayerInterface::currentTime = 1000;
+            m_panel->onUpdateSlider();
+            QVERIFY(qAbs(slider()->value() - 5000) < 200);
+            mouse(slider(), QEvent::MouseMove, at(slider(), 0.82));
+            QCOMPARE(text("playTime"), QString("00:08"));
+            QCOMPARE(position.count(), 0);
+            mouse(slider(), QEvent::MouseButtonRelease, at(slider(), 0.82));
+            QCOMPARE(position.count(), 1);
+            QVERIFY(qAbs(position.last().at(0).toInt() - 8200) < 200);
+        }
+        QCOMPARE(stopTimer.count(), 2);
+
+        // Playback ending during a drag: the release asks for nothing.
+        position.clear();
+        mouse(slider(), QEvent::MouseButtonPress, at(slider(), 0.3));
+        setStatus(PlayerInterface::PlayIdle);
+        mouse(slider(), QEvent::MouseButtonRelease, at(slider(), 0.3));
+        QCOMPARE(position.count(), 0);
+    }
+
+    void buttonsAskForTheirRequests() {
+        QSignalSpy file(m_panel, &PlayControlView::onChangePlayFile);
+        QSignalSpy next(m_panel, &PlayControlView::onCallNextFile);
+        QSignalSpy stop(m_panel, &PlayControlView::onClickedStop);
+        QSignalSpy capture(m_panel, &PlayControlView::onSendRefreshImage);
+        QSignalSpy remove(m_panel, &PlayControlView::onClickedDelete);
+        QSignalSpy flip(m_panel, &PlayControlView::onClickedFlip);
+        setStatus(PlayerInterface::PlayRunning);
+
+        click("previous");
+        click("forward");
+        m_panel->onRecvPlayBackFile();
+        QCOMPARE(file.count(), 3);
+        QCOMPARE(file.at(0).at(0).toInt(), 0);
+        QCOMPARE(file.at(1).at(0).toInt(), 1);
+        QCOMPARE(file.at(2).at(0).toInt(), 0);
+        m_panel->onRecvPlayNextFile();
+        QCOMPARE(next.count(), 1);
+
+        click("bStop");
+        QCOMPARE(stop.count(), 1);
+        QCOMPARE(stop.last().at(0).toBool(), true);
+        click("bCapture");
+        click("bDelete");
+        click("bFlip");
+        QCOMPARE(capture.count(), 1);
+        QCOMPARE(remove.count(), 1);
+        QCOMPARE(flip.count(), 1);
+        QCOMPARE(flip.last().at(0).toInt(), 0);
+    }
+
+    void blockedPanelTakesNoInput() {
+        QSignalSpy pauseSpy(m_panel, &PlayControlView::onClickedPause);
+        QSignalSpy level(m_panel, &PlayControlView::onSendVolumeChange);
+        QSignalSpy position(m_panel, &PlayControlView::onChangePlayPosition);
+        QSignalSpy file(m_panel, &PlayControlView::onChangePlayFile);
+        setStatus(PlayerInterface::PlayRunning);
+        PlayerInterface::totalTime = 10000;
+        m_panel->onloadTotalTime();
+        play()->setPlaying(true);
+
+        m_panel->onBlockEvent(true);
+        click("bPlay");
+        click("forward");
+        click("bSound");
+        m_panel->onClick_bPlay(); // the main window's keys
+        m_panel->onClick_bUnit();
+        m_panel->onStepVolume(10);
+        mouse(volume(), QEvent::MouseButtonPress, at(volume(), 0.9));
+        mouse(slider(), QEvent::MouseButtonPress, at(slider(), 0.9));
+        mouse(slider(), QEvent::MouseButtonRelease, at(slider(), 0.9));
+        QCOMPARE(pauseSpy.count() + level.count() + position.count() + file.count(), 0);
+        QVERIFY(play()->isPlaying());
+        QVERIFY(!m_panel->isMuted());
+        QVERIFY(m_panel->unitIsSeconds());
+
+        m_panel->onBlockEvent(false);
+        click("bPlay");
+        QCOMPARE(pauseSpy.count(), 1);
+    }
+
+    void sliderFollowsARealRecording() {
+        QVERIFY(QFile::exists(kRecording));
+        QWidget window;
+        window.resize(990, 300);
+        QWidget* video[3];
+        for (int i = 0; i < 3; ++i) {
+            video[i] = new QWidget(&window);
+            video[i]->setGeometry(i * 330, 0, 320, 180);
+            video[i]->setAttribute(Qt::WA_NativeWindow);
+        }
+        auto* panel = new PlayControlView(&window);
+        panel->setGeometry(0, 190, 990, 96);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        auto* player = new PlayerInterface(&window);
+        player->setMainScreen(video[0]);
+        player->setSub1Screen(video[1]);
+        player->setSub2Screen(video[2]);
+
+        // The routes the main window makes between the two.
+        connect(panel, &PlayControlView::onSendPlay, player, &PlayerInterface::onPlay);
+        connect(panel, &PlayControlView::onClickedPause, player, &PlayerInterface::onPause);
+        connect(panel, &PlayControlView::onClickedStop, player, &PlayerInterface::onClickStop);
+        connect(panel, &PlayControlView::onChangePlayPosition, player,
+                &PlayerInterface::onPlayPosMove);
+        connect(panel, &PlayControlView::onSendStopTimer, player, &PlayerInterface::onStopTimer);
+        connect(player, &PlayerInterface::onSetPlayData, panel, &PlayControlView::onSetPlayData);
+        connect(player, &PlayerInterface::onTimeout_500ms, panel, &PlayControlView::onUpdateSlider);
+        connect(player, &PlayerInterface::onUpdateTimeNow, panel, &PlayControlView::onUpdateSlider);
+        connect(player, &PlayerInterface::onSendClear, panel, &PlayControlView::onSendClear);
+        connect(player, &PlayerInterface::onSendSetPlayButton, panel,
+                &PlayControlView::onSetPlayButton);
+        connect(player, &PlayerInterface::onSendPlayNextFile, panel,
+                &PlayControlView::onRecvPlayNextFile);
+
+        auto* bar = panel->findChild<TavPlaySlider*>("playBar");
+        auto* button = panel->findChild<TavPlayButton*>("bPlay");
+        auto* playTime = panel->findChild<QLabel*>("playTime");
+        QSignalSpy started(player, &PlayerInterface::onSendSetPlayButton);
+        QSignalSpy next(panel, &PlayControlView::onCallNextFile);
+        PlayerInterface::currentFile = kRecording;
+        player->checkFileReady();
+        QVERIFY(started.wait(15000));
+        QVERIFY(button->isPlaying());
+        QVERIFY(PlayerInterface::totalTime > 4000);
+        QCOMPARE(bar->maximum(), int(PlayerInterface::totalTime));
+        QCOMPARE(panel->findChild<QLabel*>("totalTime")->text(),
+                 QString("00:%1").arg(int(PlayerInterface::totalTime) / 1000, 2, 10, QChar('0')));
+
+        QTRY_VERIFY_WITH_TIMEOUT(bar->value() >= 1000, 4000);
+        QVERIFY(playTime->text() >= QString("00:01"));
+
+        // Paused, the slider stands still.
+        QTest::mouseClick(button, Qt::LeftButton);
+        QCOMPARE(PlayerInterface::playStatus, int(PlayerInterface::PlayPaused));
+        QVERIFY(!button->isPlaying());
+        const int pausedAt = bar->value();
+        QTest::qWait(1200);
+        QCOMPARE(bar->value(), pausedAt);
+
+        // Released at 70%, the player seeks there.
+        mouse(bar, QEvent::MouseButtonPress, at(bar, 0.7));
+        mouse(bar, QEvent::MouseButtonRelease, at(bar, 0.7));
+        const int sought = bar->value();
+        QVERIFY(qAbs(sought - 0.7 * bar->maximum()) < 200);
+        QCOMPARE(PlayerInterface::currentTime, double(sought));
+        QTRY_VERIFY_WITH_TIMEOUT(qAbs(player->engine()->GetCurrentPos() - sought) < 500, 3000);
+
+        // Played on to the end: cleared, and the list is asked for the next recording.
+        QTest::mouseClick(button, Qt::LeftButton);
+        QCOMPARE(PlayerInterface::playStatus, int(PlayerInterface::PlayRunning));
+        QTRY_VERIFY_WITH_TIMEOUT(bar->value() > sought, 3000);
+        QVERIFY(next.wait(8000));
+        QCOMPARE(playTime->text(), QString("00:00"));
+        QCOMPARE(bar->maximum(), 0);
+        QVERIFY(!button->isPlaying());
+
+        QTRY_COMPARE_WITH_TIMEOUT(VLCComponent::playerState, int(VLCComponent::Stopped), 10000);
+        delete player;
+    }
+};
+
+QTEST_MAIN(TestPlayControl)
+#include "test_playcontrol.moc"
