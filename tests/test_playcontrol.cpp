@@ -32,6 +32,14 @@ QPoint at(QWidget* widget, double share) {
     return QPoint(int(share * (widget->width() - 1)), widget->height() / 2);
 }
 
+// The first argument of every emission a spy saw.
+template <typename T> QList<T> firstArguments(const QSignalSpy& spy) {
+    QList<T> values;
+    for (const QList<QVariant>& arguments : spy)
+        values << arguments.at(0).value<T>();
+    return values;
+}
+
 void setStatus(int status) {
     PlayerInterface::playStatus = status;
 }
@@ -80,20 +88,12 @@ private slots:
 
     void builtFromItsDescription() {
         QCOMPARE(m_panel->designSize(), QSize(990, 96));
-        for (const char* name : {"bPlay", "bStop", "previous", "rewind", "fastForward", "forward",
-                                 "bUnit", "bCapture", "bDelete", "bFlip", "bSound"})
-            QVERIFY2(child(name) && child(name)->isVisible(), name);
         QCOMPARE(slider()->parentWidget()->objectName(), QString("row2Widget"));
-        QVERIFY(volume()->isVisible());
         QCOMPARE(m_panel->findChild<QWidget*>("chartView"), nullptr);
-        QCOMPARE(child("bHalfSpeed")->text(), QString("0.5x"));
-        QCOMPARE(child("bDefaultSpeed")->text(), QString("1x"));
         QCOMPARE(child("bDefHalfSpeed")->text(), QString("1.5x"));
-        QCOMPARE(child("bDoubleSpeed")->text(), QString("2x"));
         QCOMPARE(child("bUnit")->text(), QString("Sec"));
-        // The volume and mute saved at the last exit.
+        // The volume saved at the last exit, also for the coordinator's next start.
         QCOMPARE(volume()->value(), 40);
-        QVERIFY(!m_panel->isMuted());
         QCOMPARE(PlayerInterface::volume, 40);
 
         // Wider windows stretch the slider, keep the right-hand buttons at the edge and the
@@ -144,9 +144,7 @@ private slots:
         setStatus(PlayerInterface::PlayStopped);
         PlayerInterface::currentFile = kRecording;
         click("bPlay");
-        QVERIFY(!play()->isPlaying());
-        // Nothing chosen yet.
-        setStatus(PlayerInterface::PlayIdle);
+        setStatus(PlayerInterface::PlayIdle); // and nothing chosen yet
         PlayerInterface::currentFile.clear();
         click("bPlay");
         QCOMPARE(playSpy.count() + pauseSpy.count(), 0);
@@ -165,23 +163,18 @@ private slots:
         // Playing on from a pause in frame steps goes back to five-second steps.
         setStatus(PlayerInterface::PlayPaused);
         click("bUnit");
-        QVERIFY(!m_panel->unitIsSeconds());
         click("bPlay");
         QCOMPARE(playSpy.count(), 2);
         QCOMPARE(pauseSpy.count(), 1);
-        QVERIFY(play()->isPlaying());
         QCOMPARE(child("bUnit")->text(), QString("Sec"));
 
-        // The pause the main window and the file list ask for.
+        // The pause the main window and the file list ask for: only of a playing recording.
+        m_panel->onSetPause();
+        QCOMPARE(pauseSpy.count(), 1);
         setStatus(PlayerInterface::PlayRunning);
         m_panel->onSetPause();
         QCOMPARE(pauseSpy.count(), 2);
         QVERIFY(!play()->isPlaying());
-        setStatus(PlayerInterface::PlayPaused);
-        m_panel->onSetPause();
-        QCOMPARE(pauseSpy.count(), 2);
-        m_panel->onSetPlayButton();
-        QVERIFY(play()->isPlaying());
     }
 
     void unitSwitchPausesAndStepsFollowIt() {
@@ -192,9 +185,7 @@ private slots:
         setStatus(PlayerInterface::PlayRunning);
         click("rewind");
         click("fastForward");
-        QCOMPARE(seconds.count(), 2);
-        QCOMPARE(seconds.at(0).at(0).toBool(), false);
-        QCOMPARE(seconds.at(1).at(0).toBool(), true);
+        QCOMPARE(firstArguments<bool>(seconds), QList<bool>({false, true}));
 
         play()->setPlaying(true);
         click("bUnit");
@@ -205,9 +196,7 @@ private slots:
         setStatus(PlayerInterface::PlayPaused);
         click("fastForward");
         click("rewind");
-        QCOMPARE(frames.count(), 2);
-        QCOMPARE(frames.at(0).at(0).toBool(), true);
-        QCOMPARE(frames.at(1).at(0).toBool(), false);
+        QCOMPARE(firstArguments<bool>(frames), QList<bool>({true, false}));
         QCOMPARE(seconds.count(), 2);
 
         // Back to seconds; paused already, so no second pause.
@@ -234,8 +223,7 @@ private slots:
 
         setStatus(PlayerInterface::PlayRunning);
         click("bDefHalfSpeed");
-        QCOMPARE(speed.count(), 1);
-        QCOMPARE(speed.last().at(0).toInt(), 3);
+        QCOMPARE(firstArguments<int>(speed), QList<int>({3}));
         QVERIFY(!child("bDefHalfSpeed")->isEnabled());
         for (const char* other : {"bHalfSpeed", "bDefaultSpeed", "bDoubleSpeed"})
             QVERIFY2(child(other)->isEnabled(), other);
@@ -247,15 +235,12 @@ private slots:
         QCOMPARE(speed.count(), 1);
 
         click("bHalfSpeed");
-        QCOMPARE(speed.last().at(0).toInt(), 1);
-        QCOMPARE(m_panel->speedIndex(), 1);
+        QCOMPARE(firstArguments<int>(speed), QList<int>({3, 1}));
 
         // A new recording starts at normal speed.
         m_panel->onSetPlayData();
         QCOMPARE(m_panel->speedIndex(), 2);
-        QVERIFY(!child("bDefaultSpeed")->isEnabled());
-        QVERIFY(child("bHalfSpeed")->isEnabled());
-        QCOMPARE(speed.count(), 2);
+        QVERIFY(!child("bDefaultSpeed")->isEnabled() && child("bHalfSpeed")->isEnabled());
     }
 
     void muteAndVolume() {
@@ -263,10 +248,8 @@ private slots:
         QSignalSpy level(m_panel, &PlayControlView::onSendVolumeChange);
 
         click("bSound");
-        QCOMPARE(mute.count(), 1);
         QCOMPARE(mute.last().at(0).toBool(), true);
-        QVERIFY(child("bSound")->isChecked());
-        QVERIFY(AppGlobals::mute);
+        QVERIFY(child("bSound")->isChecked() && AppGlobals::mute);
         QCOMPARE(volume()->value(), 0);
         m_panel->onSetPlayData(); // a new recording keeps the sound off
         QCOMPARE(volume()->value(), 0);
@@ -275,9 +258,8 @@ private slots:
         QCOMPARE(volume()->value(), 40);
 
         // Ends of the bar are 0 and 100; a click sets the volume where it lands.
-        QCOMPARE(volume()->volumeAt(0), 0);
-        QCOMPARE(volume()->volumeAt(volume()->width()), 100);
         QCOMPARE(volume()->volumeAt(-20), 0);
+        QCOMPARE(volume()->volumeAt(volume()->width()), 100);
         mouse(volume(), QEvent::MouseButtonPress, at(volume(), 0.75));
         mouse(volume(), QEvent::MouseButtonRelease, at(volume(), 0.75));
         QVERIFY(qAbs(level.last().at(0).toInt() - 75) <= 1);
@@ -287,20 +269,19 @@ private slots:
         click("bSound");
         mute.clear();
         mouse(volume(), QEvent::MouseButtonPress, at(volume(), 0.5));
-        mouse(volume(), QEvent::MouseMove, at(volume(), 0.3));
         mouse(volume(), QEvent::MouseMove, at(volume(), 0.2));
         mouse(volume(), QEvent::MouseButtonRelease, at(volume(), 0.2));
         QCOMPARE(mute.count(), 1);
-        QCOMPARE(mute.last().at(0).toBool(), false);
         QVERIFY(!m_panel->isMuted() && !AppGlobals::mute);
         QVERIFY(qAbs(level.last().at(0).toInt() - 20) <= 1);
         QCOMPARE(volume()->value(), level.last().at(0).toInt());
 
+        // Keys stop at the top without asking again.
         level.clear();
         m_panel->onStepVolume(+100);
-        QCOMPARE(level.last().at(0).toInt(), 100);
         m_panel->onStepVolume(+5);
-        QCOMPARE(level.count(), 1); // already at the top
+        QCOMPARE(level.count(), 1);
+        QCOMPARE(level.last().at(0).toInt(), 100);
 
         // The stored values put back, as after the settings are read.
         AppGlobals::volume = 60;
@@ -358,35 +339,18 @@ private slots:
         QCOMPARE(position.count(), 0);
     }
 
-    void buttonsAskForTheirRequests() {
+    void fileButtonsAndRoutes() {
         QSignalSpy file(m_panel, &PlayControlView::onChangePlayFile);
         QSignalSpy next(m_panel, &PlayControlView::onCallNextFile);
         QSignalSpy stop(m_panel, &PlayControlView::onClickedStop);
-        QSignalSpy capture(m_panel, &PlayControlView::onSendRefreshImage);
-        QSignalSpy remove(m_panel, &PlayControlView::onClickedDelete);
-        QSignalSpy flip(m_panel, &PlayControlView::onClickedFlip);
-        setStatus(PlayerInterface::PlayRunning);
-
         click("previous");
         click("forward");
-        m_panel->onRecvPlayBackFile();
-        QCOMPARE(file.count(), 3);
-        QCOMPARE(file.at(0).at(0).toInt(), 0);
-        QCOMPARE(file.at(1).at(0).toInt(), 1);
-        QCOMPARE(file.at(2).at(0).toInt(), 0);
-        m_panel->onRecvPlayNextFile();
+        m_panel->onRecvPlayBackFile(); // the coordinator's step back past the start
+        m_panel->onRecvPlayNextFile(); // and its end of file
+        QCOMPARE(firstArguments<int>(file), QList<int>({0, 1, 0}));
         QCOMPARE(next.count(), 1);
-
         click("bStop");
-        QCOMPARE(stop.count(), 1);
-        QCOMPARE(stop.last().at(0).toBool(), true);
-        click("bCapture");
-        click("bDelete");
-        click("bFlip");
-        QCOMPARE(capture.count(), 1);
-        QCOMPARE(remove.count(), 1);
-        QCOMPARE(flip.count(), 1);
-        QCOMPARE(flip.last().at(0).toInt(), 0);
+        QCOMPARE(firstArguments<bool>(stop), QList<bool>({true}));
     }
 
     void blockedPanelTakesNoInput() {
@@ -398,6 +362,7 @@ private slots:
         PlayerInterface::totalTime = 10000;
         m_panel->onloadTotalTime();
         play()->setPlaying(true);
+        const bool muted = m_panel->isMuted();
 
         m_panel->onBlockEvent(true);
         click("bPlay");
@@ -411,7 +376,7 @@ private slots:
         mouse(slider(), QEvent::MouseButtonRelease, at(slider(), 0.9));
         QCOMPARE(pauseSpy.count() + level.count() + position.count() + file.count(), 0);
         QVERIFY(play()->isPlaying());
-        QVERIFY(!m_panel->isMuted());
+        QCOMPARE(m_panel->isMuted(), muted);
         QVERIFY(m_panel->unitIsSeconds());
 
         m_panel->onBlockEvent(false);
@@ -441,7 +406,6 @@ private slots:
         // The routes the main window makes between the two.
         connect(panel, &PlayControlView::onSendPlay, player, &PlayerInterface::onPlay);
         connect(panel, &PlayControlView::onClickedPause, player, &PlayerInterface::onPause);
-        connect(panel, &PlayControlView::onClickedStop, player, &PlayerInterface::onClickStop);
         connect(panel, &PlayControlView::onChangePlayPosition, player,
                 &PlayerInterface::onPlayPosMove);
         connect(panel, &PlayControlView::onSendStopTimer, player, &PlayerInterface::onStopTimer);
