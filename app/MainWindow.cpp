@@ -4,6 +4,7 @@
 #include "AppGlobals.h"
 #include "LanguageView.h"
 #include "LeftSideView.h"
+#include "PlayControlView.h"
 #include "PlayScreenWindow.h"
 #include "PlayerInterface.h"
 #include "RightSideView.h"
@@ -28,6 +29,7 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QSettings>
+#include <QShortcut>
 #include <QStackedWidget>
 
 #include <cstdlib>
@@ -172,6 +174,10 @@ void MainWindow::setupUi() {
     }
     m_subBack->hide();
 
+    m_control = new PlayControlView(m_central);
+    m_central->addChild(m_control, "ControlView", TavWidget::Style::None);
+    m_control->setObjectName("ControlView");
+
     m_player = new PlayerInterface(this);
     m_player->setMainScreen(m_playScreen->scene());
     m_player->setSub1Screen(m_subPlayers[0]->scene());
@@ -218,11 +224,6 @@ void MainWindow::connectViews() {
                 &TavFileListItem::onFinishReadFileTime);
         connect(this, &MainWindow::onSendChangeLanguage, m_fileList,
                 &TavFileListItem::onChangeLanguage);
-        // End of a recording: the next visible row; the previous one on a step back at 0.
-        connect(m_player, &PlayerInterface::onSendPlayNextFile, m_fileList,
-                &TavFileListItem::onForwardItemSet);
-        connect(m_player, &PlayerInterface::onSendPlayPreviusFile, m_fileList,
-                [this] { m_fileList->onChangePlayItem(0); });
         if (enabled("shortcutTable")) {
             connect(m_shortcuts, &TavShortcutTable::onSendSignalFolder, m_fileList,
                     &TavFileListItem::onOpenFolderDlg);
@@ -280,6 +281,91 @@ void MainWindow::connectViews() {
     if (enabled("bFilelist"))
         connect(m_fileListButton, &QPushButton::clicked, this, &MainWindow::onRaiseFilelist);
     connect(this, &MainWindow::onSendChangeLanguage, this, &MainWindow::onChangeTextByLanguage);
+    if (enabled("ControlView"))
+        connectControlView();
+    makeShortcuts();
+}
+
+void MainWindow::connectControlView() {
+    PlayerInterface* player = m_player;
+    PlayControlView* control = m_control;
+    connect(control, &PlayControlView::onSendOpenFile, player, &PlayerInterface::checkFileReady);
+    connect(control, &PlayControlView::onSendPlay, player, &PlayerInterface::onPlay);
+    connect(control, &PlayControlView::onClickedPause, player, &PlayerInterface::onPause);
+    connect(control, &PlayControlView::onClickedStop, player, &PlayerInterface::onClickStop);
+    connect(control, &PlayControlView::onSendStop, player, &PlayerInterface::onStop);
+    connect(control, &PlayControlView::onClicked5sMove, player, &PlayerInterface::on5sMove);
+    connect(control, &PlayControlView::onClickMoveFrame, player, &PlayerInterface::onFrameMove);
+    connect(control, &PlayControlView::onChangePlayPosition, player,
+            &PlayerInterface::onPlayPosMove);
+    connect(control, &PlayControlView::onSendChangeSpeed, player, &PlayerInterface::onControlSpeed);
+    connect(control, &PlayControlView::onClickedMute, player, &PlayerInterface::onSetMute);
+    connect(control, &PlayControlView::onSendVolumeChange, player,
+            &PlayerInterface::onControlVolume);
+    connect(control, &PlayControlView::onClickedFlip, player, &PlayerInterface::onFlip);
+    connect(control, &PlayControlView::onSendStopTimer, player, &PlayerInterface::onStopTimer);
+    connect(control, &PlayControlView::onSendRestartTimer, player,
+            &PlayerInterface::onRestartTimer);
+    connect(player, &PlayerInterface::onSetPlayData, control, &PlayControlView::onSetPlayData);
+    connect(player, &PlayerInterface::onTimeout_500ms, control, &PlayControlView::onUpdateSlider);
+    connect(player, &PlayerInterface::onUpdateTimeNow, control, &PlayControlView::onUpdateSlider);
+    connect(player, &PlayerInterface::onSetTextData, control, &PlayControlView::onSendLoadChart);
+    connect(player, &PlayerInterface::onTimeout_500ms, control,
+            &PlayControlView::onSendUpdateChart);
+    connect(player, &PlayerInterface::onSendClear, control, &PlayControlView::onSendClear);
+    connect(player, &PlayerInterface::onSendPlayNextFile, control,
+            &PlayControlView::onRecvPlayNextFile);
+    connect(player, &PlayerInterface::onSendPlayPreviusFile, control,
+            &PlayControlView::onRecvPlayBackFile);
+    connect(player, &PlayerInterface::onSendSetPlayButton, control,
+            &PlayControlView::onSetPlayButton);
+    connect(this, &MainWindow::onSendBlockEvent, control, &PlayControlView::onBlockEvent);
+    if (enabled("fileList")) {
+        connect(control, &PlayControlView::onClickedDelete, m_fileList,
+                &TavFileListItem::onDeleteCurrentFile);
+        connect(control, &PlayControlView::onCallNextFile, m_fileList,
+                &TavFileListItem::onForwardItemSet);
+        connect(control, &PlayControlView::onChangePlayFile, m_fileList,
+                &TavFileListItem::onChangePlayItem);
+        connect(m_fileList, &TavFileListItem::onSendPause, control, &PlayControlView::onSetPause);
+    }
+    control->onRefreshVolume();
+}
+
+void MainWindow::makeShortcuts() {
+    if (!enabled("ControlView"))
+        return;
+    // Keys of common players; they act wherever the focus is in the window, and wait while
+    // input is blocked.
+    const auto add = [this](const QKeySequence& key, auto action) {
+        auto* shortcut = new QShortcut(key, this);
+        connect(shortcut, &QShortcut::activated, this, [this, action] {
+            if (!m_blockEvent && !m_blockKeyboard)
+                action();
+        });
+    };
+    PlayControlView* control = m_control;
+    PlayerInterface* player = m_player;
+    const auto playing = [] {
+        return PlayerInterface::playStatus == PlayerInterface::PlayRunning ||
+               PlayerInterface::playStatus == PlayerInterface::PlayPaused;
+    };
+    add(Qt::Key_Space, [control] { control->onClick_bPlay(); });
+    add(Qt::Key_Left, [control] { control->onClick_b5sReward(); });
+    add(Qt::Key_Right, [control] { control->onClick_b5sForward(); });
+    add(Qt::Key_PageUp, [control] { control->onClick_bReward(); });
+    add(Qt::Key_PageDown, [control] { control->onClick_bForward(); });
+    add(Qt::Key_M, [control] { control->onClick_bSound(); });
+    add(Qt::Key_Plus, [control] { control->onStepVolume(5); });
+    add(Qt::Key_Minus, [control] { control->onStepVolume(-5); });
+    add(Qt::Key_Home, [player, playing] {
+        if (playing())
+            player->onPlayPosMove(0);
+    });
+    add(Qt::Key_End, [player, playing] {
+        if (playing())
+            player->onPlayPosMove(int(std::max(0.0, PlayerInterface::totalTime - 1000)));
+    });
 }
 
 // ---- Window state ----

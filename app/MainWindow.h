@@ -5,6 +5,7 @@
 #include <QSize>
 
 class LeftSideView;
+class PlayControlView;
 class PlayScreenWindow;
 class PlayerInterface;
 class SubPlayerWindow;
@@ -80,6 +81,8 @@ private:
     void checkAgreement();
     void setupUi();
     void connectViews();
+    void connectControlView();
+    void makeShortcuts();
     void saveSettings();
     void removeDataFolderLeftovers();
     // Connects a row of the wiring only when both ends are built and enabled.
@@ -99,6 +102,7 @@ private:
     PlayScreenWindow* m_playScreen = nullptr;
     SubSceneBackWidget* m_subBack = nullptr;
     SubPlayerWindow* m_subPlayers[2] = {nullptr, nullptr};
+    PlayControlView* m_control = nullptr;
     PlayerInterface* m_player = nullptr;
 
     bool m_agreementAccepted = false;

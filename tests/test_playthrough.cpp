@@ -87,6 +87,29 @@ private slots:
         QTRY_VERIFY_WITH_TIMEOUT(isBlue(screenColour(rear2)), 3000);
     }
 
+    void keysControlPlayback() {
+        m_window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_window));
+        QTest::keyClick(m_window, Qt::Key_Space);
+        QCOMPARE(PlayerInterface::playStatus, int(PlayerInterface::PlayPaused));
+        QTest::keyClick(m_window, Qt::Key_Space);
+        QCOMPARE(PlayerInterface::playStatus, int(PlayerInterface::PlayRunning));
+        QTest::keyClick(m_window, Qt::Key_Home);
+        QCOMPARE(PlayerInterface::currentTime, 0.0);
+        QTest::keyClick(m_window, Qt::Key_Right); // five seconds on: the end, held there
+        QCOMPARE(PlayerInterface::currentTime, PlayerInterface::totalTime);
+        QCOMPARE(PlayerInterface::playStatus, int(PlayerInterface::PlayPaused));
+        QTest::keyClick(m_window, Qt::Key_Home);
+        QCOMPARE(PlayerInterface::currentTime, 0.0);
+        QTest::keyClick(m_window, Qt::Key_Space);
+        QCOMPARE(PlayerInterface::playStatus, int(PlayerInterface::PlayRunning));
+        // Keys wait while input is blocked.
+        m_window->onBlockEvent(true);
+        QTest::keyClick(m_window, Qt::Key_Space);
+        QCOMPARE(PlayerInterface::playStatus, int(PlayerInterface::PlayRunning));
+        m_window->onBlockEvent(false);
+    }
+
     void endOfFileSkipsRowsTheFilterHides() {
         // Event and User only: the two other Infinity rows are hidden while the first plays.
         m_list->onSortFile(2 | 8);

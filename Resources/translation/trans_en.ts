@@ -20,6 +20,65 @@
     </message>
   </context>
   <context>
+    <name>PlayControlView</name>
+    <message>
+      <source>Play / Pause</source>
+      <translation>Play / Pause</translation>
+    </message>
+    <message>
+      <source>Stop</source>
+      <translation>Stop</translation>
+    </message>
+    <message>
+      <source>Previous recording</source>
+      <translation>Previous recording</translation>
+    </message>
+    <message>
+      <source>Next recording</source>
+      <translation>Next recording</translation>
+    </message>
+    <message>
+      <source>Step back</source>
+      <translation>Step back</translation>
+    </message>
+    <message>
+      <source>Step forward</source>
+      <translation>Step forward</translation>
+    </message>
+    <message>
+      <source>Step by five seconds or by one frame</source>
+      <translation>Step by five seconds or by one frame</translation>
+    </message>
+    <message>
+      <source>Snapshot</source>
+      <translation>Snapshot</translation>
+    </message>
+    <message>
+      <source>Delete recording</source>
+      <translation>Delete recording</translation>
+    </message>
+    <message>
+      <source>Flip picture</source>
+      <translation>Flip picture</translation>
+    </message>
+    <message>
+      <source>Sound on / off</source>
+      <translation>Sound on / off</translation>
+    </message>
+    <message>
+      <source>Volume</source>
+      <translation>Volume</translation>
+    </message>
+    <message>
+      <source>Sec</source>
+      <translation>Sec</translation>
+    </message>
+    <message>
+      <source>Frm</source>
+      <translation>Frm</translation>
+    </message>
+  </context>
+  <context>
     <name>TavFileComboBox</name>
     <message>
       <source>  All Type</source>
@@ -69,12 +128,12 @@
       <translation>Item format is different with our service supproted!</translation>
     </message>
     <message>
-      <source>Do you want to delete the selected files at list?</source>
-      <translation>Do you want to delete the selected files at list?</translation>
-    </message>
-    <message>
       <source>Do you want to delete the selected files at disk?</source>
       <translation>Do you want to delete the selected files at disk?</translation>
+    </message>
+    <message>
+      <source>Do you want to delete the selected files at list?</source>
+      <translation>Do you want to delete the selected files at list?</translation>
     </message>
     <message>
       <source>This File is loading now.. Please try later</source>
@@ -167,6 +226,25 @@
     <message>
       <source>Recordings</source>
       <translation>Recordings</translation>
+    </message>
+  </context>
+  <context>
+    <name>ui_playControlView</name>
+    <message>
+      <source>0.5x</source>
+      <translation>0.5x</translation>
+    </message>
+    <message>
+      <source>1x</source>
+      <translation>1x</translation>
+    </message>
+    <message>
+      <source>1.5x</source>
+      <translation>1.5x</translation>
+    </message>
+    <message>
+      <source>2x</source>
+      <translation>2x</translation>
     </message>
   </context>
   <context>

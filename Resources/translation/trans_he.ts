@@ -20,6 +20,65 @@
     </message>
   </context>
   <context>
+    <name>PlayControlView</name>
+    <message>
+      <source>Play / Pause</source>
+      <translation>ניגון / השהיה</translation>
+    </message>
+    <message>
+      <source>Stop</source>
+      <translation>עצירה</translation>
+    </message>
+    <message>
+      <source>Previous recording</source>
+      <translation>ההקלטה הקודמת</translation>
+    </message>
+    <message>
+      <source>Next recording</source>
+      <translation>ההקלטה הבאה</translation>
+    </message>
+    <message>
+      <source>Step back</source>
+      <translation>צעד אחורה</translation>
+    </message>
+    <message>
+      <source>Step forward</source>
+      <translation>צעד קדימה</translation>
+    </message>
+    <message>
+      <source>Step by five seconds or by one frame</source>
+      <translation>צעד של חמש שניות או של פריים אחד</translation>
+    </message>
+    <message>
+      <source>Snapshot</source>
+      <translation>צילום תמונה</translation>
+    </message>
+    <message>
+      <source>Delete recording</source>
+      <translation>מחיקת הקלטה</translation>
+    </message>
+    <message>
+      <source>Flip picture</source>
+      <translation>היפוך תמונה</translation>
+    </message>
+    <message>
+      <source>Sound on / off</source>
+      <translation>הפעלת / השתקת קול</translation>
+    </message>
+    <message>
+      <source>Volume</source>
+      <translation>עוצמת קול</translation>
+    </message>
+    <message>
+      <source>Sec</source>
+      <translation>שנ׳</translation>
+    </message>
+    <message>
+      <source>Frm</source>
+      <translation>פריים</translation>
+    </message>
+  </context>
+  <context>
     <name>QGuiApplication</name>
     <message>
       <source>QT_LAYOUT_DIRECTION</source>
@@ -76,12 +135,12 @@
       <translation>תבנית הקובץ אינה נתמכת!</translation>
     </message>
     <message>
-      <source>Do you want to delete the selected files at list?</source>
-      <translation>למחוק את הקבצים שנבחרו מהרשימה?</translation>
-    </message>
-    <message>
       <source>Do you want to delete the selected files at disk?</source>
       <translation>למחוק את הקבצים שנבחרו מהדיסק?</translation>
+    </message>
+    <message>
+      <source>Do you want to delete the selected files at list?</source>
+      <translation>למחוק את הקבצים שנבחרו מהרשימה?</translation>
     </message>
     <message>
       <source>This File is loading now.. Please try later</source>
@@ -174,6 +233,25 @@
     <message>
       <source>Recordings</source>
       <translation>הקלטות</translation>
+    </message>
+  </context>
+  <context>
+    <name>ui_playControlView</name>
+    <message>
+      <source>0.5x</source>
+      <translation>0.5x</translation>
+    </message>
+    <message>
+      <source>1x</source>
+      <translation>1x</translation>
+    </message>
+    <message>
+      <source>1.5x</source>
+      <translation>1.5x</translation>
+    </message>
+    <message>
+      <source>2x</source>
+      <translation>2x</translation>
     </message>
   </context>
   <context>

@@ -20,6 +20,65 @@
     </message>
   </context>
   <context>
+    <name>PlayControlView</name>
+    <message>
+      <source>Play / Pause</source>
+      <translation>재생 / 일시정지</translation>
+    </message>
+    <message>
+      <source>Stop</source>
+      <translation>정지</translation>
+    </message>
+    <message>
+      <source>Previous recording</source>
+      <translation>이전 녹화</translation>
+    </message>
+    <message>
+      <source>Next recording</source>
+      <translation>다음 녹화</translation>
+    </message>
+    <message>
+      <source>Step back</source>
+      <translation>뒤로 이동</translation>
+    </message>
+    <message>
+      <source>Step forward</source>
+      <translation>앞으로 이동</translation>
+    </message>
+    <message>
+      <source>Step by five seconds or by one frame</source>
+      <translation>5초 또는 한 프레임씩 이동</translation>
+    </message>
+    <message>
+      <source>Snapshot</source>
+      <translation>스냅샷</translation>
+    </message>
+    <message>
+      <source>Delete recording</source>
+      <translation>녹화 삭제</translation>
+    </message>
+    <message>
+      <source>Flip picture</source>
+      <translation>화면 반전</translation>
+    </message>
+    <message>
+      <source>Sound on / off</source>
+      <translation>소리 켜기 / 끄기</translation>
+    </message>
+    <message>
+      <source>Volume</source>
+      <translation>음량</translation>
+    </message>
+    <message>
+      <source>Sec</source>
+      <translation>초</translation>
+    </message>
+    <message>
+      <source>Frm</source>
+      <translation>프레임</translation>
+    </message>
+  </context>
+  <context>
     <name>TavFileComboBox</name>
     <message>
       <source>  All Type</source>
@@ -69,12 +128,12 @@
       <translation>지원하지 않는 파일 형식입니다!</translation>
     </message>
     <message>
-      <source>Do you want to delete the selected files at list?</source>
-      <translation>선택한 파일을 목록에서 삭제하시겠습니까?</translation>
-    </message>
-    <message>
       <source>Do you want to delete the selected files at disk?</source>
       <translation>선택한 파일을 디스크에서 삭제하시겠습니까?</translation>
+    </message>
+    <message>
+      <source>Do you want to delete the selected files at list?</source>
+      <translation>선택한 파일을 목록에서 삭제하시겠습니까?</translation>
     </message>
     <message>
       <source>This File is loading now.. Please try later</source>
@@ -167,6 +226,25 @@
     <message>
       <source>Recordings</source>
       <translation>녹화 영상</translation>
+    </message>
+  </context>
+  <context>
+    <name>ui_playControlView</name>
+    <message>
+      <source>0.5x</source>
+      <translation>0.5x</translation>
+    </message>
+    <message>
+      <source>1x</source>
+      <translation>1x</translation>
+    </message>
+    <message>
+      <source>1.5x</source>
+      <translation>1.5x</translation>
+    </message>
+    <message>
+      <source>2x</source>
+      <translation>2x</translation>
     </message>
   </context>
   <context>
