@@ -463,26 +463,20 @@ void PlayerInterface::onUpdatePlayTime() {
 
 void PlayerInterface::onRecvStop() {
     logDebug("PlayerInterface::onRecvStop");
-    stopTicks();
-    if (QFile::exists(currentFile)) {
-        onClearData();
-        logDebug("PlayerInterface::fileChange");
-        emit onSendPlayNextFile();
-    } else {
-        playStatus = PlayStopped;
-        onClearData();
-        logDebug("PlayerInterface::callResetAll");
-        emit onSendFileAllDelete();
-    }
+    recordingEnded(&PlayerInterface::onSendPlayNextFile);
 }
 
 void PlayerInterface::onPlayBackFile() {
     logDebug("PlayerInterface::onRecvStop");
+    recordingEnded(&PlayerInterface::onSendPlayPreviusFile);
+}
+
+void PlayerInterface::recordingEnded(void (PlayerInterface::*moveOn)()) {
     stopTicks();
     if (QFile::exists(currentFile)) {
         onClearData();
         logDebug("PlayerInterface::fileChange");
-        emit onSendPlayPreviusFile();
+        emit(this->*moveOn)();
     } else {
         playStatus = PlayStopped;
         onClearData();

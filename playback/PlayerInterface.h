@@ -118,6 +118,9 @@ private:
     void onClearFileInfo();
     void userStop();
     void fileGone();
+    // The engine stopped at an end: on to the next (or previous) recording, or, when the
+    // file has gone, clear the list.
+    void recordingEnded(void (PlayerInterface::*moveOn)());
     void readTelemetry();
     // Blocks until the engine reports Stopped (in 100 ms sleeps, as a stop takes).
     void waitForEngineStopped();
