@@ -20,8 +20,13 @@
 
 namespace {
 
+// Set once the session asked the program to terminate.
+bool g_terminationRequested = false;
+
 // Ends the event loop when the session asks the program to terminate, so that the normal
-// shutdown (settings saved, log removed) runs.
+// shutdown (settings saved, log removed) runs. A request that arrives while the window is
+// still being shown (before the main event loop runs, when quit() would be lost) is kept
+// and honoured when the loop would start.
 void quitOnTerminationRequest() {
     const int fd = platform::terminationRequestDescriptor();
     if (fd < 0)
@@ -30,6 +35,7 @@ void quitOnTerminationRequest() {
     QObject::connect(notifier, &QSocketNotifier::activated, qApp, [] {
         platform::clearTerminationRequests();
         logInfo("[Main]: Termination requested.");
+        g_terminationRequested = true;
         QCoreApplication::quit();
     });
 }
@@ -106,7 +112,7 @@ int AppStartup::run(int& argc, char** argv) {
     if (!paths.isEmpty())
         QTimer::singleShot(0, window, [window, paths] { window->openPaths(paths); });
 
-    const int exitCode = QApplication::exec();
+    const int exitCode = g_terminationRequested ? 0 : QApplication::exec();
     delete frameless;
     delete window;
     return exitCode;

@@ -63,6 +63,11 @@ VLCComponent::VLCComponent(QObject* parent) : QObject(parent), m_syncTimer(new Q
             Qt::QueuedConnection);
     connect(this, &VLCComponent::stoppedReached, this, &VLCComponent::finishStop,
             Qt::QueuedConnection);
+    for (auto& parking : m_parking) {
+        parking = new QWidget;
+        parking->setAttribute(Qt::WA_NativeWindow);
+        parking->resize(2, 2);
+    }
     m_syncTimer->setInterval(kSyncIntervalMs);
     connect(m_syncTimer, &QTimer::timeout, this, &VLCComponent::syncRearChannels);
     playerState = Created;
@@ -85,6 +90,8 @@ VLCComponent::~VLCComponent() {
     }
     if (m_instance != nullptr)
         libvlc_release(m_instance);
+    for (QWidget* parking : m_parking)
+        delete parking;
 }
 
 bool VLCComponent::IsSplitChannelFile(const char* path) {
@@ -107,15 +114,38 @@ void VLCComponent::SetFile(char* path, int count, double totalTime) {
     channelCount = count;
     stopReason = StopGoNext;
 
+    // A player left at the end of its last media (a rear channel the last recording did not
+    // use, or one that ended on its own) still holds its video output and with it its window.
+    // Stopping it lets go of both before the next media needs the window. It has nothing
+    // left to play, so this does not wait.
+    // (The front player is always stopped through Stop or its end; its Stopped event drives
+    // what comes next, so it is left alone here.)
+    for (int i = 1; i < kMaxChannels; ++i) {
+        const libvlc_state_t state = libvlc_media_player_get_state(m_players[i]);
+        if (state == libvlc_Ended || state == libvlc_Error)
+            libvlc_media_player_stop(m_players[i]);
+    }
+
+    uintptr_t windows[kMaxChannels] = {0, 0, 0};
+    for (int i = 0; i < kMaxChannels; ++i) {
+        if (videoWidgets[i] != nullptr)
+            windows[i] = videoWidgets[i]->winId();
+    }
     if (VlcCompat::window(m_players[0]) == 0) {
-        for (int i = 0; i < kMaxChannels; ++i) {
-            if (videoWidgets[i] != nullptr)
-                VlcCompat::setWindow(m_players[i], videoWidgets[i]->winId());
-        }
+        for (int i = 0; i < kMaxChannels; ++i)
+            VlcCompat::setWindow(m_players[i], windows[i]);
+    }
+    // A rear player parked by the last single-file recording gets its window back.
+    for (int i = 1; i < kMaxChannels; ++i) {
+        if (windows[i] != 0 && VlcCompat::window(m_players[i]) != windows[i])
+            VlcCompat::setWindow(m_players[i], windows[i]);
     }
 
     if (!m_splitChannelFiles) {
-        VlcCompat::setSingleFileMedia(m_instance, m_players, count, path);
+        uintptr_t parking[kMaxChannels] = {0, 0, 0};
+        for (int i = 1; i < kMaxChannels; ++i)
+            parking[i] = m_parking[i]->winId();
+        VlcCompat::setSingleFileMedia(m_instance, m_players, count, path, windows, parking);
         playerState = FileSet;
         logDebug("VLCComponent::SetFileClear");
     } else {
@@ -339,7 +369,7 @@ int VLCComponent::GetImage(int channel, const char* path) {
     logDebug("VLCComponent::GetImage");
     if (channel < 0 || channel >= kMaxChannels)
         return -1;
-    return libvlc_video_take_snapshot(m_players[channel], 0, path, 1920, 1080);
+    return VlcCompat::takeSnapshot(m_players[channel], path, 1920, 1080);
 }
 
 bool VLCComponent::stoppingOrStopped() const {

@@ -124,6 +124,8 @@ private:
     const char* m_filePath = nullptr;
     bool m_splitChannelFiles = false;
     QTimer* m_syncTimer;
+    // Hidden windows a rear player draws into until its track is chosen (libvlc 3.0).
+    QWidget* m_parking[kMaxChannels] = {nullptr, nullptr, nullptr};
     DriftEstimator m_drift[kMaxChannels];
     float m_rate = 1.0f;
     std::atomic<bool> m_firstPictureSeen{false};

@@ -1,5 +1,6 @@
 #include "VlcCompat.h"
 
+#include <chrono>
 #include <condition_variable>
 #include <cstdlib>
 #include <deque>
@@ -157,18 +158,21 @@ private:
     std::thread m_thread;
 };
 
-// The track a rear player of a single-file recording must show, chosen as soon as its
-// media announces the track: before the first picture, the decoder and its video output
-// are made for that track. Switching later makes libvlc 3.0 open a second output that
-// cannot use the player's window and pops up a window of its own.
+// The track a rear player of a single-file recording must show. libvlc 3.0 starts every
+// player on the first video track and cannot be told another before it starts. Switching
+// tracks makes it open a second video output while the first one still holds the player's
+// window, so the second would pop up in a window of its own. The player therefore starts
+// drawing into a hidden parking window; once that first output is up, the player is given
+// its real window and switched, and the new output takes the real window.
 struct TrackChoice {
     libvlc_media_player_t* player;
     int index;
+    uintptr_t window;
 };
 
 TrackChoice g_trackChoices[3];
 
-void chooseTrack(TrackChoice* choice) {
+void chooseTrack(TrackChoice* choice, int attempt) {
     if (choice->index < 0)
         return;
     libvlc_track_description_t* list = libvlc_video_get_track_description(choice->player);
@@ -181,16 +185,28 @@ void chooseTrack(TrackChoice* choice) {
         }
     }
     libvlc_track_description_list_release(list);
-    if (id >= 0 && libvlc_video_get_track(choice->player) != id)
+    if (id < 0) {
+        // The media may announce later tracks after the first output is up.
+        constexpr int kAttempts = 40;
+        if (attempt < kAttempts) {
+            std::this_thread::sleep_for(std::chrono::milliseconds(25));
+            Worker::instance().post([choice, attempt] { chooseTrack(choice, attempt + 1); });
+        }
+        return;
+    }
+    if (libvlc_video_get_track(choice->player) != id) {
+        VlcCompat::setWindow(choice->player, choice->window);
         libvlc_video_set_track(choice->player, id);
+    }
 }
 
-void onTrackAdded(const libvlc_event_t* event, void* data) {
-    if (event->u.media_player_es_changed.i_type != libvlc_track_video ||
-        event->u.media_player_es_changed.i_id < 0)
+// The parked output is up: the media has announced its tracks and the old output holds
+// the parking window, so the switch can take the real one.
+void onParkedOutput(const libvlc_event_t* event, void* data) {
+    if (event->u.media_player_vout.new_count == 0)
         return;
     auto* choice = static_cast<TrackChoice*>(data);
-    Worker::instance().post([choice] { chooseTrack(choice); });
+    Worker::instance().post([choice] { chooseTrack(choice, 0); });
 }
 
 // 4.x stops a player whose media played to its end; 3.0 parks it in Ended.
@@ -302,7 +318,8 @@ bool VlcCompat::isTrackListBookkeeping(const libvlc_event_t* event) {
 }
 
 void VlcCompat::setSingleFileMedia(libvlc_instance_t* instance, libvlc_media_player_t** players,
-                                   int count, const char* path) {
+                                   int count, const char* path, const uintptr_t* windows,
+                                   const uintptr_t* parking) {
 #if LIBVLC_VERSION_MAJOR >= 4
     libvlc_media_t* media = libvlc_media_new_path(path);
     libvlc_media_player_set_media(players[0], media);
@@ -313,6 +330,8 @@ void VlcCompat::setSingleFileMedia(libvlc_instance_t* instance, libvlc_media_pla
     if (media != nullptr)
         libvlc_media_release(media);
     (void)instance;
+    (void)windows;
+    (void)parking;
 #else
     // Players that share one media disturb each other's track choice in 3.0: each player
     // gets its own media of the file.
@@ -325,10 +344,14 @@ void VlcCompat::setSingleFileMedia(libvlc_instance_t* instance, libvlc_media_pla
             libvlc_media_add_option(media, "no-audio");
         libvlc_media_player_set_media(players[i], media);
         libvlc_media_release(media);
+        if (i == 0)
+            continue;
         libvlc_event_manager_t* manager = libvlc_media_player_event_manager(players[i]);
-        if (choices[i].player == nullptr && i > 0)
-            libvlc_event_attach(manager, libvlc_MediaPlayerESAdded, onTrackAdded, &choices[i]);
-        choices[i] = {players[i], i};
+        if (choices[i].player == nullptr)
+            libvlc_event_attach(manager, libvlc_MediaPlayerVout, onParkedOutput, &choices[i]);
+        choices[i] = {players[i], i, windows[i]};
+        if (parking[i] != 0)
+            setWindow(players[i], parking[i]);
     }
 #endif
 }
@@ -337,6 +360,17 @@ void VlcCompat::forgetTrackChoices() {
 #if LIBVLC_VERSION_MAJOR < 4
     for (TrackChoice& choice : g_trackChoices)
         choice.index = -1;
+#endif
+}
+
+int VlcCompat::takeSnapshot(libvlc_media_player_t* player, const char* path, unsigned width,
+                            unsigned height) {
+#if LIBVLC_VERSION_MAJOR >= 4
+    return libvlc_video_take_snapshot(player, 0, path, width, height);
+#else
+    // After a track switch the parked output stays listed first; the one showing is the last.
+    const unsigned outputs = libvlc_media_player_has_vout(player);
+    return libvlc_video_take_snapshot(player, outputs > 0 ? outputs - 1 : 0, path, width, height);
 #endif
 }
 

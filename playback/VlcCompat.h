@@ -61,8 +61,15 @@ public:
     // share one media and select their track once the first picture is up. On 3.0 players
     // that share a media disturb each other's track choice, so each gets its own media of
     // the same file with its track chosen before it starts.
+    // windows: the players' own windows; parking: hidden windows the rear players may draw
+    // into until their track is chosen (see the implementation).
     static void setSingleFileMedia(libvlc_instance_t* instance, libvlc_media_player_t** players,
-                                   int count, const char* path);
+                                   int count, const char* path, const uintptr_t* windows,
+                                   const uintptr_t* parking);
+
+    // libvlc_video_take_snapshot of the video output the player shows.
+    static int takeSnapshot(libvlc_media_player_t* player, const char* path, unsigned width,
+                            unsigned height);
 
     // The next media are one file per channel: no track is to be chosen.
     static void forgetTrackChoices();

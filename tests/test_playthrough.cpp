@@ -130,6 +130,26 @@ private slots:
             QVERIFY(!record.fileName.endsWith("091000_EVT_1.mp4"));
         QVERIFY(QFile::exists(kMedia + "/20240301_091000_EVT_1.mp4")); // only off the list
     }
+
+    void singleFileRecordingShowsEachCameraInItsScene() {
+        // All three cameras are tracks of one file: each scene must show its own track on
+        // the screen (not a window libvlc opens by itself).
+        PlayerInterface::currentFile = kMedia + "/20240301_092000_USR_4.mp4";
+        m_window->player()->checkFileReady();
+        QTRY_VERIFY_WITH_TIMEOUT(PlayerInterface::currentFile.endsWith("USR_4.mp4") &&
+                                     VLCComponent::playerState == VLCComponent::Playing,
+                                 15000);
+        auto* main = m_window->findChild<PlayScreenWindow*>();
+        auto* rear1 = m_window->findChild<SubPlayerWindow*>("subPlayerWindow1");
+        auto* rear2 = m_window->findChild<SubPlayerWindow*>("subPlayerWindow2");
+        QTRY_VERIFY_WITH_TIMEOUT(isRed(screenColour(main)), 3000);
+        QTRY_VERIFY_WITH_TIMEOUT(isGreen(screenColour(rear1)), 3000);
+        QTRY_VERIFY_WITH_TIMEOUT(isBlue(screenColour(rear2)), 3000);
+        // The picture stays in the scenes while it plays on.
+        QTest::qWait(1000);
+        QVERIFY(isGreen(screenColour(rear1)));
+        QVERIFY(isRed(screenColour(main)));
+    }
 };
 
 QTEST_MAIN(TestPlaythrough)
