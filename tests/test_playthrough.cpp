@@ -14,6 +14,7 @@
 #include <QGuiApplication>
 #include <QScreen>
 #include <QSettings>
+#include <QTableWidgetItem>
 #include <QTemporaryDir>
 #include <QTranslator>
 #include <QtTest>
@@ -134,8 +135,16 @@ private slots:
     void singleFileRecordingShowsEachCameraInItsScene() {
         // All three cameras are tracks of one file: each scene must show its own track on
         // the screen (not a window libvlc opens by itself).
-        PlayerInterface::currentFile = kMedia + "/20240301_092000_USR_4.mp4";
-        m_window->player()->checkFileReady();
+        // Chosen the way a user chooses: a double click on its row.
+        m_list->onSortFile(15);
+        int row = -1;
+        for (int i = 0; i < m_list->rowCount(); ++i) {
+            if (m_list->item(i, 1) != nullptr && m_list->item(i, 1)->text().endsWith("USR_4.mp4"))
+                row = i;
+        }
+        QVERIFY(row >= 0);
+        const QPoint cell = m_list->visualItemRect(m_list->item(row, 1)).center();
+        QTest::mouseDClick(m_list->viewport(), Qt::LeftButton, {}, cell);
         QTRY_VERIFY_WITH_TIMEOUT(PlayerInterface::currentFile.endsWith("USR_4.mp4") &&
                                      VLCComponent::playerState == VLCComponent::Playing,
                                  15000);
