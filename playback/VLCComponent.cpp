@@ -84,8 +84,10 @@ VLCComponent::~VLCComponent() {
     // A stop still running on the stop worker must not outlive its player.
     VlcCompat::waitForStops();
     for (auto& player : m_players) {
-        if (player != nullptr)
+        if (player != nullptr) {
+            VlcCompat::forget(player);
             libvlc_media_player_release(player);
+        }
         player = nullptr;
     }
     if (m_instance != nullptr)

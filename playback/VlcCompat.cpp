@@ -24,6 +24,7 @@ void VlcCompat::detach(libvlc_media_player_t* player, libvlc_event_type_t type,
 void VlcCompat::stopAsync(libvlc_media_player_t* player) {
     libvlc_media_player_stop_async(player);
 }
+void VlcCompat::forget(libvlc_media_player_t*) {}
 void VlcCompat::waitForStops() {}
 void VlcCompat::setTime(libvlc_media_player_t* player, int64_t ms, bool fast) {
     libvlc_media_player_set_time(player, ms, fast);
@@ -165,9 +166,9 @@ private:
 // drawing into a hidden parking window; once that first output is up, the player is given
 // its real window and switched, and the new output takes the real window.
 struct TrackChoice {
-    libvlc_media_player_t* player;
-    int index;
-    uintptr_t window;
+    libvlc_media_player_t* player = nullptr;
+    int index = -1;
+    uintptr_t window = 0;
 };
 
 TrackChoice g_trackChoices[3];
@@ -266,6 +267,19 @@ void VlcCompat::stopAsync(libvlc_media_player_t* player) {
     Worker::instance().post([player] { stopNow(player); });
 }
 
+void VlcCompat::forget(libvlc_media_player_t* player) {
+    Worker::instance().waitIdle();
+    Registry& reg = registry();
+    std::lock_guard<std::mutex> lock(reg.mutex);
+    reg.stopping.erase(player);
+    reg.stopped.erase(player);
+    reg.endWatchers.erase(player);
+    for (TrackChoice& choice : g_trackChoices) {
+        if (choice.player == player)
+            choice = TrackChoice{};
+    }
+}
+
 void VlcCompat::waitForStops() {
     Worker::instance().waitIdle();
 }
@@ -347,7 +361,7 @@ void VlcCompat::setSingleFileMedia(libvlc_instance_t* instance, libvlc_media_pla
         if (i == 0)
             continue;
         libvlc_event_manager_t* manager = libvlc_media_player_event_manager(players[i]);
-        if (choices[i].player == nullptr)
+        if (choices[i].player != players[i])
             libvlc_event_attach(manager, libvlc_MediaPlayerVout, onParkedOutput, &choices[i]);
         choices[i] = {players[i], i, windows[i]};
         if (parking[i] != 0)

@@ -35,6 +35,10 @@ public:
     static void detach(libvlc_media_player_t* player, libvlc_event_type_t type,
                        libvlc_callback_t callback, void* data);
 
+    // Drops everything this class keeps about a player; called before the player is released
+    // (libvlc forgets a released player's handlers too).
+    static void forget(libvlc_media_player_t* player);
+
     // libvlc_media_player_stop_async. Returns at once; completion is the Stopped event.
     static void stopAsync(libvlc_media_player_t* player);
 
