@@ -31,6 +31,7 @@
 #include <QSettings>
 #include <QShortcut>
 #include <QStackedWidget>
+#include <QTimer>
 
 #include <cstdlib>
 
@@ -70,10 +71,11 @@ MainWindow::~MainWindow() {
     logInfo("[MainWindow]: Close Application.");
     if (m_saveSettings)
         saveSettings();
+    // The thumbnail worker stops before its folder goes.
+    emit onSendStopItemThread();
     logInfo("[MainWindow]: Delete Thumbs...");
     removeDataFolderLeftovers();
     logInfo("Destruct complete!");
-    emit onSendStopItemThread();
 
     // The coordinator stops its engine before the scenes it draws into go away.
     delete m_player;
@@ -333,10 +335,8 @@ void MainWindow::connectControlView() {
 }
 
 void MainWindow::makeShortcuts() {
-    if (!enabled("ControlView"))
-        return;
-    // Keys of common players; they act wherever the focus is in the window, and wait while
-    // input is blocked.
+    // Keys of common players; they act wherever the focus is in the window (the list would
+    // take letters for its own search), and wait while input is blocked.
     const auto add = [this](const QKeySequence& key, auto action) {
         auto* shortcut = new QShortcut(key, this);
         connect(shortcut, &QShortcut::activated, this, [this, action] {
@@ -344,6 +344,14 @@ void MainWindow::makeShortcuts() {
                 action();
         });
     };
+    add(Qt::Key_F, [this] { onRecvFullScreen(); });
+    add(Qt::Key_F11, [this] { onRecvFullScreen(); });
+    add(Qt::Key_Escape, [this] {
+        if (isFullScreen())
+            onRecvFullScreen();
+    });
+    if (!enabled("ControlView"))
+        return;
     PlayControlView* control = m_control;
     PlayerInterface* player = m_player;
     const auto playing = [] {
@@ -440,8 +448,10 @@ void MainWindow::onShowPlayWindow(int channels) {
     m_channels = channels;
     // The scenes are ready before the first picture: libvlc draws into them from the start.
     m_stack->setCurrentWidget(m_playScreen);
-    for (SubPlayerWindow* sub : m_subPlayers)
-        sub->setVisible(channels > sub->id());
+    for (SubPlayerWindow* sub : m_subPlayers) {
+        const char* entry = sub->id() == 1 ? "subPlayer1" : "subPlayer2";
+        sub->setVisible(channels > sub->id() && m_subBack->isEnabledChild(entry));
+    }
     m_subBack->setVisible(channels > 1 && enabled("subSceneBackWidget"));
     if (m_subBack->isVisible())
         m_subBack->raise();
@@ -478,11 +488,14 @@ void MainWindow::dropEvent(QDropEvent* event) {
         if (url.isLocalFile())
             paths << url.toLocalFile();
     }
-    if (!paths.isEmpty() && enabled("fileList")) {
-        logInfo("[TavFileListItem]: items are dropped in list.");
-        m_fileList->loadPaths(paths);
-    }
     event->acceptProposedAction();
+    // Loading may ask questions; the program the files came from must not wait for them.
+    if (!paths.isEmpty() && enabled("fileList")) {
+        QTimer::singleShot(0, m_fileList, [list = m_fileList, paths] {
+            logInfo("[TavFileListItem]: items are dropped in list.");
+            list->loadPaths(paths);
+        });
+    }
 }
 
 void MainWindow::onBlockEvent(bool block) {
@@ -505,20 +518,6 @@ void MainWindow::keyPressEvent(QKeyEvent* event) {
     if (m_blockEvent || m_blockKeyboard) {
         event->ignore();
         return;
-    }
-    switch (event->key()) {
-    case Qt::Key_F11:
-    case Qt::Key_F:
-        onRecvFullScreen();
-        return;
-    case Qt::Key_Escape:
-        if (isFullScreen()) {
-            onRecvFullScreen();
-            return;
-        }
-        break;
-    default:
-        break;
     }
     QMainWindow::keyPressEvent(event);
 }

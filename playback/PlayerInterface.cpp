@@ -228,7 +228,8 @@ void PlayerInterface::onPlay() {
             readTelemetry();
     }
 
-    const QByteArray path = currentFile.toLocal8Bit();
+    // libvlc takes paths as UTF-8 on every system.
+    const QByteArray path = currentFile.toUtf8();
     std::strncpy(m_pathBuffer, path.constData(), sizeof m_pathBuffer - 1);
     m_pathBuffer[sizeof m_pathBuffer - 1] = '\0';
     const bool split = m_engine->IsSplitChannelFile(m_pathBuffer);
@@ -545,7 +546,7 @@ QImage PlayerInterface::getScreenImage(int channel) {
     QDir().mkpath(folder);
     const QString path = QDir::toNativeSeparators(folder + "/" + QString::number(channel) + ".png");
     QImage image;
-    if (m_engine->GetImage(channel, path.toLocal8Bit().constData()) == 0)
+    if (m_engine->GetImage(channel, path.toUtf8().constData()) == 0)
         image.load(path);
     return image;
 }

@@ -133,5 +133,7 @@ private:
     int m_readyLimit = kReadyTicks;
     KDXData* m_telemetry = nullptr;
     unsigned char* m_info;
-    char m_pathBuffer[256] = {};
+    // The engine keeps a pointer to the path it plays; room for the longest path a system
+    // allows.
+    char m_pathBuffer[4096] = {};
 };

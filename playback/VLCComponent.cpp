@@ -94,6 +94,8 @@ VLCComponent::~VLCComponent() {
         libvlc_release(m_instance);
     for (QWidget* parking : m_parking)
         delete parking;
+    for (QWidget*& widget : videoWidgets)
+        widget = nullptr;
 }
 
 bool VLCComponent::IsSplitChannelFile(const char* path) {
@@ -158,7 +160,7 @@ void VLCComponent::SetFile(char* path, int count, double totalTime) {
 
 void VLCComponent::SetSplitChannelFiles(const char* path) {
     VlcCompat::forgetTrackChoices();
-    const QFileInfo info(QDir::toNativeSeparators(QString::fromLocal8Bit(path)));
+    const QFileInfo info(QDir::toNativeSeparators(QString::fromUtf8(path)));
     const QString directory = info.absolutePath();
     const QString baseName = info.completeBaseName();
     const QString stem =
@@ -173,10 +175,9 @@ void VLCComponent::SetSplitChannelFiles(const char* path) {
             found << candidate;
     }
     for (int i = 0; i < found.size(); ++i) {
-        char buffer[256];
-        std::strncpy(buffer, found[i].toLocal8Bit().constData(), sizeof buffer - 1);
-        buffer[sizeof buffer - 1] = '\0';
-        libvlc_media_t* media = libvlc_media_new_path(m_instance, buffer);
+        // libvlc takes paths as UTF-8 on every system.
+        const QByteArray file = found[i].toUtf8();
+        libvlc_media_t* media = libvlc_media_new_path(m_instance, file.constData());
         if (media == nullptr)
             continue;
         if (i > 0) {
@@ -229,6 +230,7 @@ int VLCComponent::Play() {
 
     m_rate = 1.0f;
     m_firstPictureSeen = false;
+    m_stopDelivered = false;
     for (int i = 0; i < channelCount && i < kMaxChannels; ++i) {
         libvlc_media_player_play(m_players[i]);
         libvlc_media_player_set_rate(m_players[i], 1.0f);
@@ -268,10 +270,13 @@ void VLCComponent::Stop(int reason) {
     emit send_setLogo(true);
     emit send_setBlockEvent(true);
     stopReason = reason;
+    m_stopDelivered = false;
     // Rear players first: the front player's Stopped event then comes last, when every
-    // channel has let go of its file.
-    for (int i = std::min(channelCount, int(kMaxChannels)) - 1; i >= 0; --i)
+    // channel has let go of its file. The front player is always stopped, even when the
+    // channel count was cleared by the end of its streams, so that the stop is reported.
+    for (int i = std::min(channelCount, int(kMaxChannels)) - 1; i >= 1; --i)
         VlcCompat::stopAsync(m_players[i]);
+    VlcCompat::stopAsync(m_players[0]);
 }
 
 void VLCComponent::Seek(int ms) {
@@ -398,6 +403,10 @@ void VLCComponent::onDisplay(const libvlc_event_t* event, void* self) {
 void VLCComponent::onStopped(const libvlc_event_t*, void* self) {
     auto* engine = static_cast<VLCComponent*>(self);
     logDebug("VLCComponent::VLC_Stop_cb");
+    // libvlc 3.0 may report the end of a media that played out as Stopped and again when the
+    // player is then stopped: one stop moves on once.
+    if (engine->m_stopDelivered.exchange(true))
+        return;
     const int reason = stopReason;
     // The state goes first: receivers of the signals below run on the GUI thread and must
     // find the player stopped.
@@ -449,6 +458,9 @@ void VLCComponent::onEvent(const libvlc_event_t* event, void* self) {
     auto* engine = static_cast<VLCComponent*>(self);
     const auto type = static_cast<libvlc_event_type_t>(event->type);
     if (type == VlcCompat::kStopping) {
+        // The stop of a media that already reported its end changes nothing.
+        if (engine->m_stopDelivered)
+            return;
         logDebug("VLCComponent::libvlc_MediaPlayerStopping");
         logInfo("********** event_occur libvlc_MediaPlayerStopping **********");
         emit engine->send_ShowWidget(false);

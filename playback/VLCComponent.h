@@ -129,6 +129,7 @@ private:
     DriftEstimator m_drift[kMaxChannels];
     float m_rate = 1.0f;
     std::atomic<bool> m_firstPictureSeen{false};
+    std::atomic<bool> m_stopDelivered{false};
     static constexpr int kTrackRetryMs = 50;
     static constexpr int kTrackRetries = 60;
     int m_trackPending = 0;

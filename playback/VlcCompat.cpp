@@ -95,7 +95,7 @@ void stopNow(libvlc_media_player_t* player) {
     // 3.0 sends Stopped from inside stop() unless the player was already stopped; 4.x
     // always reports the end of a stop, so make up for the missing event.
     libvlc_media_player_stop(player);
-    if (before == libvlc_Stopped || before == libvlc_NothingSpecial)
+    if (before == libvlc_Stopped)
         raise(player, libvlc_MediaPlayerStopped, handlersOf(registry().stopped, player));
 }
 

@@ -379,6 +379,13 @@ void TavFileListItem::onChangePlayItem(int direction) {
     const int target = direction > 0 ? nextRow() : previousRow();
     if (target < 0) {
         logInfo("[TavFileListItem]: no Item.");
+        // Reached after the player stopped to move on (a step back at the very start): with
+        // nothing to move to, it stays stopped at the logo and takes input again. The player
+        // blocks input right after asking to move on, so the release comes after that.
+        if (PlayerInterface::playStatus != PlayerInterface::PlayRunning &&
+            PlayerInterface::playStatus != PlayerInterface::PlayPaused)
+            emit onSendLogoSet(true);
+        QTimer::singleShot(0, this, [this] { emit onSetBlockEvent(false); });
         ListPrompt::inform(this, tr("There is no item."));
         return;
     }

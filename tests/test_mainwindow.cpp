@@ -85,6 +85,9 @@ private slots:
         QTest::mouseClick(child<QPushButton>("bMaximize"), Qt::LeftButton);
         QTRY_VERIFY(!m_window->isMaximized());
 
+        // Keys are the window's shortcuts: they need the window active.
+        m_window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_window));
         QTest::keyClick(m_window, Qt::Key_F11);
         QTRY_VERIFY(m_window->isFullScreen());
         QVERIFY(child<QPushButton>("bFullScreen")->isChecked());

@@ -3,6 +3,7 @@
 // its own scene; the end of a recording moves to the next row the type filter shows; the
 // playing row is deleted.
 #include "AppGlobals.h"
+#include "ListPrompt.h"
 #include "MainWindow.h"
 #include "PlayScreenWindow.h"
 #include "PlayerInterface.h"
@@ -109,6 +110,23 @@ private slots:
         QTest::keyClick(m_window, Qt::Key_Space);
         QCOMPARE(PlayerInterface::playStatus, int(PlayerInterface::PlayRunning));
         m_window->onBlockEvent(false);
+    }
+
+    void stepBackAtTheVeryStartLeavesTheWindowUsable() {
+        // Back past the start of the first recording: there is no previous one. The player
+        // stops at the logo, says so, and takes input again.
+        QStringList messages;
+        ListPrompt::informHook = [&messages](const QString& text) { messages << text; };
+        PlayerInterface::currentTime = 0;
+        m_window->player()->on5sMove(false);
+        QTRY_COMPARE_WITH_TIMEOUT(messages, QStringList{"There is no item."}, 10000);
+        ListPrompt::informHook = nullptr;
+        QCOMPARE(VLCComponent::playerState, int(VLCComponent::Stopped));
+        QTRY_VERIFY(m_window->findChild<QWidget*>("WaitPlayLogo")->isVisible());
+        QTest::keyClick(m_window, Qt::Key_Space); // input is taken again: Space plays
+        QTRY_VERIFY_WITH_TIMEOUT(PlayerInterface::playStatus == PlayerInterface::PlayRunning,
+                                 15000);
+        waitForPicture();
     }
 
     void endOfFileSkipsRowsTheFilterHides() {
