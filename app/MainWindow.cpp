@@ -274,6 +274,8 @@ void MainWindow::connectViews() {
             connect(sub, &SubPlayerWindow::sendVideoResize, m_player,
                     &PlayerInterface::onResizeVideo);
             connect(sub, &SubPlayerWindow::onClickedFlip, m_player, &PlayerInterface::onFlip);
+            connect(sub, &SubPlayerWindow::onChangeView, this,
+                    [this, sub] { onChangeSceneView(sub->slot()); });
         }
         connect(m_subBack, &SubSceneBackWidget::onSendBlockKeyboardEvent, this,
                 &MainWindow::onBlockKeyboardEvent);
@@ -449,12 +451,31 @@ void MainWindow::onShowPlayWindow(int channels) {
     // The scenes are ready before the first picture: libvlc draws into them from the start.
     m_stack->setCurrentWidget(m_playScreen);
     for (SubPlayerWindow* sub : m_subPlayers) {
-        const char* entry = sub->id() == 1 ? "subPlayer1" : "subPlayer2";
-        sub->setVisible(channels > sub->id() && m_subBack->isEnabledChild(entry));
+        const char* entry = sub->slot() == 1 ? "subPlayer1" : "subPlayer2";
+        sub->setVisible(channels > sub->slot() && m_subBack->isEnabledChild(entry));
     }
     m_subBack->setVisible(channels > 1 && enabled("subSceneBackWidget"));
     if (m_subBack->isVisible())
         m_subBack->raise();
+}
+
+void MainWindow::onChangeSceneView(int slot) {
+    logDebug("MainWindow::onChangeSceneView");
+    if (slot < 1 || slot > 2)
+        return;
+    SubPlayerWindow* sub = m_subPlayers[slot - 1];
+    const int mainId = m_playScreen->id();
+    QWidget* subScene = sub->scene();
+    const int subId = sub->id();
+    QWidget* mainScene = m_playScreen->swapScene(subScene, subId);
+    sub->swapScene(mainScene, mainId);
+}
+
+void MainWindow::restoreScenes() {
+    for (SubPlayerWindow* sub : m_subPlayers) {
+        if (sub->id() == 0)
+            onChangeSceneView(sub->slot());
+    }
 }
 
 void MainWindow::onBlockKeyboardEvent(bool block) {

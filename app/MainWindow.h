@@ -64,6 +64,10 @@ public slots:
     void onBlockEvent(bool block);
     void onShowPlayWindow(int channels);
     void onBlockKeyboardEvent(bool block);
+    // Shows the channel of a rear scene in the main scene and the main scene's channel there.
+    void onChangeSceneView(int id);
+    // Every channel back in its own scene.
+    void restoreScenes();
     void onShowFilelist();
     void onRaiseFilelist();
     void openLangaugeDlg();

@@ -11,7 +11,21 @@ PlayScreenWindow::PlayScreenWindow(QWidget* parent)
     // libvlc needs a window of its own to draw into.
     m_scene->setAttribute(Qt::WA_NativeWindow);
     addChild(m_scene, "sceneWidget", Style::Panel);
+    placeItself(m_scene);
     m_scene->setGeometry(rect());
+}
+
+QWidget* PlayScreenWindow::swapScene(QWidget* scene, int id) {
+    logDebug("PlayScreenWindow::swapScene");
+    QWidget* previous = m_scene;
+    m_scene = scene;
+    m_id = id;
+    // A native window moves with everything libvlc draws in it.
+    scene->setParent(this);
+    scene->lower();
+    scene->show();
+    onResetZoom();
+    return previous;
 }
 
 QRect PlayScreenWindow::sceneGeometry(int level, const QPoint& at, const QSize& window) {

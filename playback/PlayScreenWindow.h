@@ -13,6 +13,10 @@ public:
     explicit PlayScreenWindow(QWidget* parent = nullptr);
 
     QWidget* scene() const { return m_scene; }
+    int id() const { return m_id; }
+
+    // Shows another channel's scene here (the scene swap); returns the scene it replaces.
+    QWidget* swapScene(QWidget* scene, int id);
     int zoomLevel() const { return m_zoomLevel; }
     bool zoomEnabled() const { return m_zoomEnabled; }
 

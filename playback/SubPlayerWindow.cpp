@@ -8,9 +8,11 @@
 
 SubPlayerWindow::SubPlayerWindow(int channel, QWidget* parent)
     : TavWidget("SubPlayerWindow", parent), m_scene(new QWidget(this)), m_caption(new QLabel(this)),
-      m_arrow(new QPushButton(this)), m_flip(new QPushButton(this)), m_id(channel) {
+      m_arrow(new QPushButton(this)), m_flip(new QPushButton(this)), m_id(channel),
+      m_slot(channel) {
     m_scene->setAttribute(Qt::WA_NativeWindow);
     addChild(m_scene, "sceneWidget", Style::Panel);
+    placeItself(m_scene);
     addChild(m_caption, "caption", Style::Label);
     addChild(m_arrow, "arrow", Style::Button);
     addChild(m_flip, "bFlip", Style::Button);
@@ -25,6 +27,20 @@ SubPlayerWindow::SubPlayerWindow(int channel, QWidget* parent)
     m_normalStyle = styleSheet();
     connect(m_arrow, &QPushButton::clicked, this, [this] { emit onChangeView(m_id); });
     connect(m_flip, &QPushButton::clicked, this, [this] { emit onClickedFlip(m_id); });
+}
+
+QWidget* SubPlayerWindow::swapScene(QWidget* scene, int id) {
+    logDebug("SubPlayerWindow::swapScene");
+    QWidget* previous = m_scene;
+    m_scene = scene;
+    m_id = id;
+    scene->setParent(this);
+    scene->stackUnder(m_arrow);
+    scene->setGeometry(rect());
+    scene->show();
+    m_flip->setChecked(false);
+    emit sendVideoResize(m_id, m_scene->size());
+    return previous;
 }
 
 void SubPlayerWindow::onSetId(int id) {
@@ -43,8 +59,8 @@ void SubPlayerWindow::onResetView(int channels) {
     logDebug("SubPlayerWindow::onResetView");
     logInfo("!!! onResetView %s %d ch Max size : %dx%d", objectName().toLocal8Bit().constData(),
             channels, width(), height());
-    // This camera is part of the recording only when there are more channels than its id.
-    setVisible(channels > m_id);
+    // This camera is part of the recording only when there are more channels than its slot.
+    setVisible(channels > m_slot);
     m_flip->setChecked(false);
     m_scene->setGeometry(rect());
 }

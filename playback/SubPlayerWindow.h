@@ -14,7 +14,12 @@ public:
     explicit SubPlayerWindow(int channel, QWidget* parent = nullptr);
 
     QWidget* scene() const { return m_scene; }
+    // The channel shown here now, and the rear channel this window was made for.
     int id() const { return m_id; }
+    int slot() const { return m_slot; }
+
+    // Shows another channel's scene here (the scene swap); returns the scene it replaces.
+    QWidget* swapScene(QWidget* scene, int id);
 
 signals:
     void sendVideoResize(int id, QSize size);
@@ -36,5 +41,6 @@ private:
     QPushButton* m_arrow;
     QPushButton* m_flip;
     int m_id;
+    int m_slot;
     QString m_normalStyle;
 };

@@ -13,6 +13,7 @@
 #include "VLCComponent.h"
 
 #include <QGuiApplication>
+#include <QPushButton>
 #include <QScreen>
 #include <QSettings>
 #include <QTableWidgetItem>
@@ -87,6 +88,23 @@ private slots:
         QTRY_VERIFY_WITH_TIMEOUT(isRed(screenColour(main)), 3000);
         QTRY_VERIFY_WITH_TIMEOUT(isGreen(screenColour(rear1)), 3000);
         QTRY_VERIFY_WITH_TIMEOUT(isBlue(screenColour(rear2)), 3000);
+    }
+
+    void rearCameraSwapsIntoTheMainScene() {
+        auto* main = m_window->findChild<PlayScreenWindow*>();
+        auto* rear1 = m_window->findChild<SubPlayerWindow*>("subPlayerWindow1");
+        auto* arrow = rear1->findChild<QPushButton*>("arrow");
+        QVERIFY(arrow && arrow->isVisible());
+        QTest::mouseClick(arrow, Qt::LeftButton);
+        QTRY_VERIFY_WITH_TIMEOUT(isGreen(screenColour(main)), 3000);
+        QTRY_VERIFY_WITH_TIMEOUT(isRed(screenColour(rear1)), 3000);
+        QCOMPARE(main->id(), 1);
+        // The main scene still zooms, whichever camera it shows.
+        QVERIFY(main->scene()->parentWidget() == main);
+        QTest::mouseClick(arrow, Qt::LeftButton);
+        QTRY_VERIFY_WITH_TIMEOUT(isRed(screenColour(main)), 3000);
+        QTRY_VERIFY_WITH_TIMEOUT(isGreen(screenColour(rear1)), 3000);
+        QCOMPARE(main->id(), 0);
     }
 
     void keysControlPlayback() {

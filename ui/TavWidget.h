@@ -27,6 +27,10 @@ public:
     // in the description.
     bool addChild(QWidget* child, const QString& name, Style style);
 
+    // The view places this child itself from now on (for example a child that can move to
+    // another view).
+    void placeItself(QWidget* child) { m_layout.remove(child); }
+
     // Whether the description enables a child; views skip wiring for those it does not.
     bool isEnabledChild(const QString& name) const;
 

@@ -65,6 +65,13 @@ void UiLayout::add(QWidget* widget, const UiItem& item) {
     m_entries.append({widget, QRect(QPoint(item.x, item.y), item.size), item});
 }
 
+void UiLayout::remove(QWidget* widget) {
+    for (int i = m_entries.size() - 1; i >= 0; --i) {
+        if (m_entries[i].widget == widget)
+            m_entries.remove(i);
+    }
+}
+
 void UiLayout::apply(const QSize& size) const {
     if (!m_designSize.isValid())
         return;

@@ -23,6 +23,7 @@ public:
 
     void add(QWidget* widget, const UiItem& item);
     void clear() { m_entries.clear(); }
+    void remove(QWidget* widget);
 
     // The geometry a child drawn at `drawn` takes in a view of `size`.
     static QRect place(const QRect& drawn, const UiItem& rules, const QSize& design,
