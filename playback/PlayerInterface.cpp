@@ -154,7 +154,8 @@ void PlayerInterface::onCheckSetReady() {
 void PlayerInterface::onOpenFile() {
     logDebug("PlayerInterface::onOpenFile");
     if (isRunningOrPaused()) {
-        userStop();
+        logInfo("[PlayerInterface]: onClickStop");
+        userStop(VLCComponent::StopPlain);
         waitForEngineStopped();
     }
     if (playStatus == PlayStopped)
@@ -275,22 +276,17 @@ void PlayerInterface::onPause() {
     playStatus = PlayPaused;
 }
 
-void PlayerInterface::userStop() {
-    logInfo("[PlayerInterface]: onClickStop");
+void PlayerInterface::userStop(int reason) {
     stopTicks();
     stopRequested = true;
-    m_engine->Stop(VLCComponent::StopPlain);
+    m_engine->Stop(reason);
     onClearData();
 }
 
 void PlayerInterface::onClickStop(bool isClick) {
     logInfo("[PlayerInterface]: onClickStop");
-    if (!isRunningOrPaused())
-        return;
-    stopTicks();
-    stopRequested = true;
-    m_engine->Stop(isClick ? VLCComponent::StopShowLogo : VLCComponent::StopPlain);
-    onClearData();
+    if (isRunningOrPaused())
+        userStop(isClick ? VLCComponent::StopShowLogo : VLCComponent::StopPlain);
 }
 
 void PlayerInterface::onStop(int type) {
@@ -357,12 +353,8 @@ void PlayerInterface::onClearFileInfo() {
 
 void PlayerInterface::fileGone() {
     logInfo("[PlayerInterface]: onClickStop");
-    if (isRunningOrPaused()) {
-        stopTicks();
-        stopRequested = true;
-        m_engine->Stop(VLCComponent::StopPlain);
-        onClearData();
-    }
+    if (isRunningOrPaused())
+        userStop(VLCComponent::StopPlain);
     logDebug("PlayerInterface::callResetAll");
     emit onSendFileAllDelete();
 }

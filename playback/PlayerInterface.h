@@ -116,7 +116,8 @@ private:
     void stopTicks();
     void onClearData();
     void onClearFileInfo();
-    void userStop();
+    // A stop the user (or an opening) asked for: ticks off, engine stopped, views cleared.
+    void userStop(int reason);
     void fileGone();
     // The engine stopped at an end: on to the next (or previous) recording, or, when the
     // file has gone, clear the list.

@@ -173,19 +173,26 @@ struct TrackChoice {
 
 TrackChoice g_trackChoices[3];
 
-void chooseTrack(TrackChoice* choice, int attempt) {
-    if (choice->index < 0)
-        return;
-    libvlc_track_description_t* list = libvlc_video_get_track_description(choice->player);
+// 3.0 selects tracks by their elementary-stream id: the id of the index-th real video track
+// (the list also holds a "Disable" entry with id -1), or -1 when there is none yet.
+int videoTrackId(libvlc_media_player_t* player, int index) {
+    libvlc_track_description_t* list = libvlc_video_get_track_description(player);
     int seen = 0;
     int id = -1;
     for (libvlc_track_description_t* it = list; it != nullptr; it = it->p_next) {
-        if (it->i_id >= 0 && seen++ == choice->index) {
+        if (it->i_id >= 0 && seen++ == index) {
             id = it->i_id;
             break;
         }
     }
     libvlc_track_description_list_release(list);
+    return id;
+}
+
+void chooseTrack(TrackChoice* choice, int attempt) {
+    if (choice->index < 0)
+        return;
+    const int id = videoTrackId(choice->player, choice->index);
     if (id < 0) {
         // The media may announce later tracks after the first output is up.
         constexpr int kAttempts = 40;
@@ -289,19 +296,7 @@ void VlcCompat::setTime(libvlc_media_player_t* player, int64_t ms, bool) {
 }
 
 int VlcCompat::selectVideoTrack(libvlc_media_player_t* player, int index) {
-    // 3.0 selects tracks by their elementary-stream id; find the index-th real track.
-    libvlc_track_description_t* list = libvlc_video_get_track_description(player);
-    int id = -1;
-    int seen = 0;
-    for (libvlc_track_description_t* it = list; it != nullptr; it = it->p_next) {
-        if (it->i_id < 0) // "Disable"
-            continue;
-        if (seen++ == index) {
-            id = it->i_id;
-            break;
-        }
-    }
-    libvlc_track_description_list_release(list);
+    const int id = videoTrackId(player, index);
     if (id < 0)
         return -1;
     if (libvlc_video_get_track(player) == id)
