@@ -3,10 +3,18 @@
 #include <QString>
 #include <QStringList>
 
+#include <chrono>
+
 // The benchmark recordings, made once into the build tree, and the external programs the
 // benchmarks compare with.
 class BenchMedia {
 public:
+    using Clock = std::chrono::steady_clock;
+    // Wall time since start, in milliseconds.
+    static double millisecondsSince(Clock::time_point start) {
+        return std::chrono::duration<double, std::milli>(Clock::now() - start).count();
+    }
+
     // Makes the recordings when they are missing or out of date; false when that failed.
     static bool prepare();
 

@@ -22,10 +22,7 @@ double durationTextMsPerFile = 0;
 double kdxOpenInfoMsPerFile = 0;
 double ffprobeMsPerFile = 0;
 
-using Clock = std::chrono::steady_clock;
-double millisecondsSince(Clock::time_point start) {
-    return std::chrono::duration<double, std::milli>(Clock::now() - start).count();
-}
+using Clock = BenchMedia::Clock;
 
 // What the file list's length worker does for every listed recording.
 void DurationText(benchmark::State& state) {
@@ -39,7 +36,7 @@ void DurationText(benchmark::State& state) {
                 state.SkipWithError(qPrintable("unexpected length " + text + " of " + path));
             benchmark::DoNotOptimize(text);
         }
-        total += millisecondsSince(start);
+        total += BenchMedia::millisecondsSince(start);
         files += recordings.size();
     }
     durationTextMsPerFile = total / double(files);
@@ -64,7 +61,7 @@ void ReaderOpenInfo(benchmark::State& state) {
             benchmark::DoNotOptimize(info.totalRangeMs);
             KDXReaderClose(reader);
         }
-        total += millisecondsSince(start);
+        total += BenchMedia::millisecondsSince(start);
         files += recordings8.size();
     }
     kdxOpenInfoMsPerFile = total / double(files);
@@ -82,7 +79,7 @@ void FfprobePerFile(benchmark::State& state) {
             if (!BenchMedia::runQuietly("ffprobe", {"-v", "error", "-show_entries",
                                                     "format=duration", "-of", "csv=p=0", path}))
                 state.SkipWithError("ffprobe failed");
-        total += millisecondsSince(start);
+        total += BenchMedia::millisecondsSince(start);
         files += sample.size();
     }
     ffprobeMsPerFile = total / double(files);

@@ -19,10 +19,7 @@ double kdxDataMs = 0;
 double ffmpegMs = 0;
 int readings = 0;
 
-using Clock = std::chrono::steady_clock;
-double millisecondsSince(Clock::time_point start) {
-    return std::chrono::duration<double, std::milli>(Clock::now() - start).count();
-}
+using Clock = BenchMedia::Clock;
 
 void KdxDataAllTelemetry(benchmark::State& state) {
     std::vector<unsigned char> info(KDXData::kInfoSize);
@@ -35,7 +32,7 @@ void KdxDataAllTelemetry(benchmark::State& state) {
         readings = data.KDX_GetTextDataTotalCount();
         benchmark::DoNotOptimize(data.KDX_GetTextDataFrame(readings - 1));
         data.KDX_TextDataFree();
-        total += millisecondsSince(start);
+        total += BenchMedia::millisecondsSince(start);
     }
     kdxDataMs = total / double(state.iterations());
     state.counters["readings"] = readings;
@@ -49,7 +46,7 @@ void FfmpegExtractTrack(benchmark::State& state) {
         if (!BenchMedia::runQuietly("ffmpeg", {"-v", "error", "-nostdin", "-i", drive, "-map",
                                                "0:s:0", "-f", "srt", "-y", "/dev/null"}))
             state.SkipWithError("ffmpeg failed");
-        total += millisecondsSince(start);
+        total += BenchMedia::millisecondsSince(start);
     }
     ffmpegMs = total / double(state.iterations());
 }
