@@ -504,19 +504,8 @@ void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
 }
 
 void MainWindow::dropEvent(QDropEvent* event) {
-    QStringList paths;
-    for (const QUrl& url : event->mimeData()->urls()) {
-        if (url.isLocalFile())
-            paths << url.toLocalFile();
-    }
-    event->acceptProposedAction();
-    // Loading may ask questions; the program the files came from must not wait for them.
-    if (!paths.isEmpty() && enabled("fileList")) {
-        QTimer::singleShot(0, m_fileList, [list = m_fileList, paths] {
-            logInfo("[TavFileListItem]: items are dropped in list.");
-            list->loadPaths(paths);
-        });
-    }
+    if (enabled("fileList"))
+        m_fileList->takeDrop(event);
 }
 
 void MainWindow::onBlockEvent(bool block) {

@@ -646,6 +646,10 @@ void TavFileListItem::dragMoveEvent(QDragMoveEvent* event) {
 }
 
 void TavFileListItem::dropEvent(QDropEvent* event) {
+    takeDrop(event);
+}
+
+void TavFileListItem::takeDrop(QDropEvent* event) {
     logInfo("[TavFileListItem]: items are dropped in list.");
     QStringList paths;
     for (const QUrl& url : event->mimeData()->urls())

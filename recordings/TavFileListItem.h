@@ -28,6 +28,8 @@ class TypeIconDelegate;
 // Lengths are read by pool threads after a many-file load and arrive in chunks; a progress
 // bar in the list's header strip shows how far it got. Thumbnails (row tool tips) are made by
 // an ItemInfoThread for the rows on screen, as they come into view.
+class QDropEvent;
+
 class TavFileListItem : public TavTableWidget {
     Q_OBJECT
 public:
@@ -46,6 +48,10 @@ public:
     // Files and folders from a drop or the command line. A folder gives its files, as the
     // open-folder dialog does; the result is loaded like a drop.
     void loadPaths(const QStringList& paths);
+
+    // Lists the local files and folders of a drop, on the list or elsewhere in the window,
+    // once the drop has returned.
+    void takeDrop(QDropEvent* event);
 
     // Where the current recording stands among visibleRows; -1 when the filter hides it or
     // nothing is current.
