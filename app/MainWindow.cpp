@@ -469,6 +469,7 @@ void MainWindow::onChangeSceneView(int slot) {
     const int subId = sub->id();
     QWidget* mainScene = m_playScreen->swapScene(subScene, subId);
     sub->swapScene(mainScene, mainId);
+    m_control->setFlipChannel(subId);
 }
 
 void MainWindow::restoreScenes() {

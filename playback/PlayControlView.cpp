@@ -253,7 +253,7 @@ void PlayControlView::onClick_bFlip() {
     logDebug("PlayControlView::onClick_bFlip");
     if (m_blocked)
         return;
-    emit onClickedFlip(0);
+    emit onClickedFlip(m_flipChannel);
 }
 
 // ---- Steps ----

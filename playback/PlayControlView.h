@@ -26,6 +26,8 @@ public:
     bool unitIsSeconds() const { return m_unitIsSeconds; }
     // 1 = 0.5x, 2 = 1.0x, 3 = 1.5x, 4 = 2.0x: the speed the buttons show in force.
     int speedIndex() const { return m_speedIndex; }
+    // The camera the main scene shows, which the flip button mirrors.
+    void setFlipChannel(int channel) { m_flipChannel = channel; }
     bool isMuted() const { return m_muted; }
     bool isBlocked() const { return m_blocked; }
 
@@ -101,6 +103,7 @@ private:
 
     bool m_unitIsSeconds = true;
     int m_speedIndex = 2;
+    int m_flipChannel = 0;
     bool m_muted = false;
     int m_volume = 100;
     bool m_blocked = false;

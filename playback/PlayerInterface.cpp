@@ -482,8 +482,10 @@ void PlayerInterface::recordingEnded(void (PlayerInterface::*moveOn)()) {
 
 void PlayerInterface::onFlip(int ScreenNum) {
     logDebug("PlayerInterface::onFlip");
-    if (ScreenNum >= 0 && ScreenNum < 3)
-        flipState[ScreenNum] = !flipState[ScreenNum];
+    if (ScreenNum < 0 || ScreenNum >= 3)
+        return;
+    flipState[ScreenNum] = !flipState[ScreenNum];
+    m_engine->SetFlip(ScreenNum, flipState[ScreenNum]);
 }
 
 void PlayerInterface::onFullScreen() {

@@ -35,9 +35,11 @@ QWidget* SubPlayerWindow::swapScene(QWidget* scene, int id) {
     m_scene = scene;
     m_id = id;
     scene->setParent(this);
-    scene->stackUnder(m_arrow);
     scene->setGeometry(rect());
     scene->show();
+    // The scene comes back as a new native window on top; the buttons go above it again.
+    for (QPushButton* button : {m_arrow, m_flip})
+        button->raise();
     m_flip->setChecked(false);
     emit sendVideoResize(m_id, m_scene->size());
     return previous;

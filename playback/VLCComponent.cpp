@@ -24,9 +24,8 @@ namespace {
 // libvlc's own messages are not wanted in the status log.
 void discardLog(void*, int, const libvlc_log_t*, const char*, va_list) {}
 
-} // namespace
-
-VLCComponent::VLCComponent(QObject* parent) : QObject(parent), m_syncTimer(new QTimer(this)) {
+// The one set of arguments every channel plays with; a mirroring instance adds the filter.
+libvlc_instance_t* newInstance(bool mirrored) {
     const char* const args[] = {"--no-keyboard-events",
                                 "--no-mouse-events",
                                 "--mouse-hide-timeout=-1",
@@ -39,23 +38,32 @@ VLCComponent::VLCComponent(QObject* parent) : QObject(parent), m_syncTimer(new Q
                                 "--file-caching=1000",
                                 "--verbose=1",
                                 "--clock-jitter=5000",
-                                "--clock-synchro=0"};
-    m_instance = libvlc_new(static_cast<int>(sizeof args / sizeof args[0]), args);
+                                "--clock-synchro=0",
+                                "--video-filter=transform",
+                                "--transform-type=hflip"};
+    const int plain = 13;
+    libvlc_instance_t* instance =
+        libvlc_new(mirrored ? int(sizeof args / sizeof args[0]) : plain, args);
+    if (instance != nullptr)
+        libvlc_log_set(instance, discardLog, nullptr);
+    return instance;
+}
+
+// How long a player that joins a running recording may take to show its picture.
+constexpr int kSettleIntervalMs = 40;
+constexpr int kSettleTicks = 150;
+
+} // namespace
+
+VLCComponent::VLCComponent(QObject* parent)
+    : QObject(parent), m_syncTimer(new QTimer(this)), m_settleTimer(new QTimer(this)) {
+    m_instance = newInstance(false);
     if (m_instance != nullptr) {
         for (auto& player : m_players)
             player = libvlc_media_player_new(m_instance);
-        libvlc_log_set(m_instance, discardLog, nullptr);
     }
-    if (m_players[0] != nullptr) {
-        m_eventManager = libvlc_media_player_event_manager(m_players[0]);
-        VlcCompat::attach(m_players[0], libvlc_MediaPlayerPlaying, onPlaying, this);
-        VlcCompat::attach(m_players[0], libvlc_MediaPlayerStopped, onStopped, this);
-        VlcCompat::attach(m_players[0], libvlc_MediaPlayerVout, onDisplay, this);
-        VlcCompat::attach(m_players[0], libvlc_MediaPlayerESAdded, onEsAdded, this);
-        VlcCompat::attach(m_players[0], libvlc_MediaPlayerESDeleted, onEsDeleted, nullptr);
-        VlcCompat::attach(m_players[0], VlcCompat::kStopping, onEvent, this);
-        VlcCompat::attach(m_players[0], libvlc_MediaPlayerESSelected, onEvent, this);
-    }
+    if (m_players[0] != nullptr)
+        attachFrontHandlers(m_players[0]);
     connect(this, &VLCComponent::send_ShowWidget, this, &VLCComponent::recv_ShowWidget);
     connect(this, &VLCComponent::playingReached, this, &VLCComponent::pullRearChannelsToFront,
             Qt::QueuedConnection);
@@ -70,17 +78,34 @@ VLCComponent::VLCComponent(QObject* parent) : QObject(parent), m_syncTimer(new Q
     }
     m_syncTimer->setInterval(kSyncIntervalMs);
     connect(m_syncTimer, &QTimer::timeout, this, &VLCComponent::syncRearChannels);
+    m_settleTimer->setInterval(kSettleIntervalMs);
+    connect(m_settleTimer, &QTimer::timeout, this, &VLCComponent::settleReplacedPlayers);
     playerState = Created;
 }
 
+void VLCComponent::attachFrontHandlers(libvlc_media_player_t* player) {
+    VlcCompat::attach(player, libvlc_MediaPlayerPlaying, onPlaying, this);
+    VlcCompat::attach(player, libvlc_MediaPlayerStopped, onStopped, this);
+    VlcCompat::attach(player, libvlc_MediaPlayerVout, onDisplay, this);
+    VlcCompat::attach(player, libvlc_MediaPlayerESAdded, onEsAdded, this);
+    VlcCompat::attach(player, libvlc_MediaPlayerESDeleted, onEsDeleted, nullptr);
+    VlcCompat::attach(player, VlcCompat::kStopping, onEvent, this);
+    VlcCompat::attach(player, libvlc_MediaPlayerESSelected, onEvent, this);
+}
+
+void VLCComponent::detachFrontHandlers(libvlc_media_player_t* player) {
+    VlcCompat::detach(player, libvlc_MediaPlayerPlaying, onPlaying, this);
+    VlcCompat::detach(player, libvlc_MediaPlayerStopped, onStopped, this);
+    VlcCompat::detach(player, libvlc_MediaPlayerVout, onDisplay, this);
+    VlcCompat::detach(player, libvlc_MediaPlayerESAdded, onEsAdded, this);
+    VlcCompat::detach(player, libvlc_MediaPlayerESDeleted, onEsDeleted, nullptr);
+    VlcCompat::detach(player, VlcCompat::kStopping, onEvent, this);
+    VlcCompat::detach(player, libvlc_MediaPlayerESSelected, onEvent, this);
+}
+
 VLCComponent::~VLCComponent() {
-    if (m_players[0] != nullptr) {
-        VlcCompat::detach(m_players[0], libvlc_MediaPlayerPlaying, onPlaying, this);
-        VlcCompat::detach(m_players[0], libvlc_MediaPlayerStopped, onStopped, this);
-        VlcCompat::detach(m_players[0], libvlc_MediaPlayerVout, onDisplay, this);
-        VlcCompat::detach(m_players[0], libvlc_MediaPlayerESAdded, onEsAdded, this);
-        VlcCompat::detach(m_players[0], libvlc_MediaPlayerESDeleted, onEsDeleted, nullptr);
-    }
+    if (m_players[0] != nullptr)
+        detachFrontHandlers(m_players[0]);
     // A stop still running on the stop worker must not outlive its player.
     VlcCompat::waitForStops();
     for (auto& player : m_players) {
@@ -92,6 +117,8 @@ VLCComponent::~VLCComponent() {
     }
     if (m_instance != nullptr)
         libvlc_release(m_instance);
+    if (m_mirrorInstance != nullptr)
+        libvlc_release(m_mirrorInstance);
     for (QWidget* parking : m_parking)
         delete parking;
     for (QWidget*& widget : videoWidgets)
@@ -113,7 +140,14 @@ void VLCComponent::SetFile(char* path, int count, double totalTime) {
     logDebug("VLCComponent::SetFile");
     if (m_players[0] == nullptr)
         return;
-    m_filePath = path;
+    // Every recording starts as it was recorded.
+    m_settling = 0;
+    m_settleTimer->stop();
+    for (int i = 0; i < kMaxChannels; ++i) {
+        if (m_mirrored[i])
+            replacePlayer(i, false);
+    }
+    m_filePath = QByteArray(path);
     m_totalTime = totalTime;
     channelCount = count;
     stopReason = StopGoNext;
@@ -150,6 +184,8 @@ void VLCComponent::SetFile(char* path, int count, double totalTime) {
         for (int i = 1; i < kMaxChannels; ++i)
             parking[i] = m_parking[i]->winId();
         VlcCompat::setSingleFileMedia(m_instance, m_players, count, path, windows, parking);
+        for (QByteArray& file : m_channelFiles)
+            file.clear();
         playerState = FileSet;
         logDebug("VLCComponent::SetFileClear");
     } else {
@@ -174,19 +210,18 @@ void VLCComponent::SetSplitChannelFiles(const char* path) {
         if (candidateInfo.exists() && candidateInfo.isFile())
             found << candidate;
     }
-    for (int i = 0; i < found.size(); ++i) {
+    for (int i = 0; i < kMaxChannels; ++i) {
         // libvlc takes paths as UTF-8 on every system.
-        const QByteArray file = found[i].toUtf8();
-        libvlc_media_t* media = libvlc_media_new_path(m_instance, file.constData());
+        m_channelFiles[i] = i < found.size() ? found[i].toUtf8() : QByteArray();
+        if (i >= found.size())
+            continue;
+        libvlc_media_t* media =
+            VlcCompat::newMedia(m_instance, m_channelFiles[i].constData(), i == 0, 0);
         if (media == nullptr)
             continue;
-        if (i > 0) {
-            libvlc_media_add_option(media, "no-audio");
-            libvlc_media_player_set_media(m_players[i], media);
-        } else {
-            libvlc_media_player_set_media(m_players[0], media);
+        libvlc_media_player_set_media(m_players[i], media);
+        if (i == 0)
             channelCount = found.size();
-        }
         libvlc_media_release(media);
     }
     playerState = FileSet;
@@ -205,12 +240,7 @@ void VLCComponent::SetResize(int index, QSize size) {
         videoWidgets[index]->resize(size);
 }
 
-int VLCComponent::Play() {
-    logDebug("VLCComponent::Play");
-    if (m_players[0] == nullptr)
-        return -1;
-    emit send_ShowWidget(false);
-
+void VLCComponent::chooseAudioOutput(libvlc_media_player_t* player) {
     bool haveWaveOut = false;
     libvlc_audio_output_t* outputs = libvlc_audio_output_list_get(m_instance);
     for (libvlc_audio_output_t* it = outputs; it != nullptr; it = it->p_next) {
@@ -222,11 +252,19 @@ int VLCComponent::Play() {
     }
     libvlc_audio_output_list_release(outputs);
 
-    if (VlcCompat::hasAudioDevice(m_players[0]))
-        VlcCompat::resetAudioDevice(m_players[0]);
+    if (VlcCompat::hasAudioDevice(player))
+        VlcCompat::resetAudioDevice(player);
     // "waveout" exists on Windows only; elsewhere libvlc's default output stays.
     if (haveWaveOut)
-        libvlc_audio_output_set(m_players[0], "waveout");
+        libvlc_audio_output_set(player, "waveout");
+}
+
+int VLCComponent::Play() {
+    logDebug("VLCComponent::Play");
+    if (m_players[0] == nullptr)
+        return -1;
+    emit send_ShowWidget(false);
+    chooseAudioOutput(m_players[0]);
 
     m_rate = 1.0f;
     m_firstPictureSeen = false;
@@ -377,6 +415,109 @@ int VLCComponent::GetImage(int channel, const char* path) {
     if (channel < 0 || channel >= kMaxChannels)
         return -1;
     return VlcCompat::takeSnapshot(m_players[channel], path, 1920, 1080);
+}
+
+void VLCComponent::SetFlip(int channel, bool mirrored) {
+    logDebug("VLCComponent::SetFlip");
+    if (channel < 0 || channel >= kMaxChannels || m_mirrored[channel] == mirrored)
+        return;
+    // Only a channel that shows a recording now is changed; the next one starts unmirrored.
+    if ((playerState != Playing && playerState != Paused) || channel >= channelCount)
+        return;
+    if (mirrored && m_mirrorInstance == nullptr) {
+        m_mirrorInstance = newInstance(true);
+        if (m_mirrorInstance == nullptr) {
+            logWarning("[VLCComponent]: libvlc cannot mirror pictures");
+            return;
+        }
+    }
+    const libvlc_time_t now = libvlc_media_player_get_time(m_players[0]);
+    const uintptr_t window =
+        videoWidgets[channel] != nullptr ? videoWidgets[channel]->winId() : uintptr_t(0);
+    libvlc_media_player_t* player = replacePlayer(channel, mirrored);
+    if (player == nullptr)
+        return;
+    libvlc_instance_t* instance = mirrored ? m_mirrorInstance : m_instance;
+    VlcCompat::setWindow(player, window);
+    if (m_splitChannelFiles) {
+        libvlc_media_t* media = VlcCompat::newMedia(instance, m_channelFiles[channel].constData(),
+                                                    channel == 0, std::max<int64_t>(now, 0));
+        if (media == nullptr)
+            return;
+        libvlc_media_player_set_media(player, media);
+        libvlc_media_release(media);
+    } else {
+        VlcCompat::setTrackMedia(instance, player, channel, m_filePath.constData(), window,
+                                 m_parking[channel]->winId(), std::max<int64_t>(now, 0));
+    }
+    if (channel == 0)
+        chooseAudioOutput(player);
+    libvlc_media_player_play(player);
+    libvlc_media_player_set_rate(player, m_rate);
+    resetDriftEstimates();
+    m_settling |= 1 << channel;
+    m_settleTicks = 0;
+    m_settleTimer->start();
+}
+
+bool VLCComponent::IsFlipped(int channel) const {
+    return channel >= 0 && channel < kMaxChannels && m_mirrored[channel];
+}
+
+libvlc_media_player_t* VLCComponent::replacePlayer(int channel, bool mirrored) {
+    libvlc_instance_t* instance = mirrored ? m_mirrorInstance : m_instance;
+    libvlc_media_player_t* player = instance ? libvlc_media_player_new(instance) : nullptr;
+    if (player == nullptr)
+        return nullptr;
+    libvlc_media_player_t* old = m_players[channel];
+    if (channel == 0) {
+        detachFrontHandlers(old);
+        attachFrontHandlers(player);
+        const int volume = libvlc_audio_get_volume(old);
+        if (volume >= 0)
+            libvlc_audio_set_volume(player, volume);
+        libvlc_audio_set_mute(player, libvlc_audio_get_mute(old) == 1);
+    }
+    VlcCompat::retire(old);
+    m_players[channel] = player;
+    m_mirrored[channel] = mirrored;
+    return player;
+}
+
+void VLCComponent::settleReplacedPlayers() {
+    if (m_settling == 0 || stoppingOrStopped()) {
+        m_settling = 0;
+        m_settleTimer->stop();
+        return;
+    }
+    if (++m_settleTicks > kSettleTicks) {
+        logWarning("[VLCComponent]: players 0x%x showed no picture after a flip", m_settling);
+        m_settling = 0;
+        m_settleTimer->stop();
+        return;
+    }
+    for (int i = 0; i < kMaxChannels; ++i) {
+        if (!(m_settling & (1 << i)))
+            continue;
+        libvlc_media_player_t* player = m_players[i];
+        // A rear track of a single-file recording shows its picture in a second output,
+        // after the parked one.
+        const unsigned outputs =
+            (i > 0 && !m_splitChannelFiles && VlcCompat::tracksChosenWithMedia()) ? 2 : 1;
+        if (libvlc_media_player_get_state(player) != libvlc_Playing ||
+            libvlc_media_player_has_vout(player) < outputs)
+            continue;
+        if (i > 0) {
+            const libvlc_time_t front = libvlc_media_player_get_time(m_players[0]);
+            if (needsPull(i, front))
+                VlcCompat::setTime(player, front, false);
+        }
+        if (playerState == Paused)
+            libvlc_media_player_set_pause(player, 1);
+        m_settling &= ~(1 << i);
+    }
+    if (m_settling == 0)
+        m_settleTimer->stop();
 }
 
 bool VLCComponent::stoppingOrStopped() const {

@@ -3,6 +3,7 @@
 #include "DriftEstimator.h"
 #include <QObject>
 
+#include <QByteArray>
 #include <QSize>
 
 #include <vlc/vlc.h>
@@ -73,6 +74,11 @@ public:
     int GetChannelCount();
     int GetImage(int channel, const char* path);
 
+    // Shows a channel's picture mirrored left to right, or as recorded again. Takes effect
+    // at once while a recording plays or is paused; a new recording starts unmirrored.
+    void SetFlip(int channel, bool mirrored);
+    bool IsFlipped(int channel) const;
+
     // Time of one channel's player in ms (for checks of the channels' step).
     double GetChannelTime(int channel);
 
@@ -102,6 +108,7 @@ private slots:
     void finishStop(int reason);
     void syncRearChannels();
     void retryTrackSelection();
+    void settleReplacedPlayers();
 
 private:
     static void onPlaying(const libvlc_event_t* event, void* self);
@@ -112,18 +119,34 @@ private:
     static void onEvent(const libvlc_event_t* event, void* self);
 
     void SetSplitChannelFiles(const char* path);
+    // The front player's handlers, on the player that is the front one now.
+    void attachFrontHandlers(libvlc_media_player_t* player);
+    void detachFrontHandlers(libvlc_media_player_t* player);
+    // Puts a new player of the plain or the mirroring instance in a channel's place; the
+    // old one is stopped and released in the background.
+    libvlc_media_player_t* replacePlayer(int channel, bool mirrored);
+    void chooseAudioOutput(libvlc_media_player_t* player);
     bool stoppingOrStopped() const;
     // Whether a rear player is measurably off the front player's time.
     bool needsPull(int channel, libvlc_time_t front) const;
     void resetDriftEstimates();
 
     libvlc_instance_t* m_instance = nullptr;
+    // libvlc 3.0 takes video filters per instance only, so mirrored channels play on an
+    // instance of their own, made on the first flip.
+    libvlc_instance_t* m_mirrorInstance = nullptr;
+    bool m_mirrored[kMaxChannels] = {false, false, false};
+    // The file each player plays when a recording is one file per channel.
+    QByteArray m_channelFiles[kMaxChannels];
     libvlc_media_player_t* m_players[kMaxChannels] = {nullptr, nullptr, nullptr};
-    libvlc_event_manager_t* m_eventManager = nullptr;
     double m_totalTime = 0;
-    const char* m_filePath = nullptr;
+    QByteArray m_filePath;
     bool m_splitChannelFiles = false;
     QTimer* m_syncTimer;
+    // Players that joined a running recording and still have to reach its time and state.
+    QTimer* m_settleTimer;
+    int m_settling = 0;
+    int m_settleTicks = 0;
     // Hidden windows a rear player draws into until its track is chosen (libvlc 3.0).
     QWidget* m_parking[kMaxChannels] = {nullptr, nullptr, nullptr};
     DriftEstimator m_drift[kMaxChannels];

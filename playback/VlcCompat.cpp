@@ -2,6 +2,7 @@
 
 #include <chrono>
 #include <condition_variable>
+#include <cstdio>
 #include <cstdlib>
 #include <deque>
 #include <functional>
@@ -344,24 +345,96 @@ void VlcCompat::setSingleFileMedia(libvlc_instance_t* instance, libvlc_media_pla
 #else
     // Players that share one media disturb each other's track choice in 3.0: each player
     // gets its own media of the file.
-    TrackChoice* choices = g_trackChoices;
-    for (int i = 0; i < count && i < 3; ++i) {
-        libvlc_media_t* media = libvlc_media_new_path(instance, path);
-        if (media == nullptr)
-            continue;
-        if (i > 0)
-            libvlc_media_add_option(media, "no-audio");
-        libvlc_media_player_set_media(players[i], media);
-        libvlc_media_release(media);
-        if (i == 0)
-            continue;
-        libvlc_event_manager_t* manager = libvlc_media_player_event_manager(players[i]);
-        if (choices[i].player != players[i])
-            libvlc_event_attach(manager, libvlc_MediaPlayerVout, onParkedOutput, &choices[i]);
-        choices[i] = {players[i], i, windows[i]};
-        if (parking[i] != 0)
-            setWindow(players[i], parking[i]);
+    for (int i = 0; i < count && i < 3; ++i)
+        setTrackMedia(instance, players[i], i, path, windows[i], parking[i], 0);
+#endif
+}
+
+libvlc_media_t* VlcCompat::newMedia(libvlc_instance_t* instance, const char* path, bool sound,
+                                    int64_t startMs) {
+#if LIBVLC_VERSION_MAJOR >= 4
+    libvlc_media_t* media = libvlc_media_new_path(path);
+    (void)instance;
+#else
+    libvlc_media_t* media = libvlc_media_new_path(instance, path);
+#endif
+    if (media == nullptr)
+        return nullptr;
+    if (!sound)
+        libvlc_media_add_option(media, "no-audio");
+    if (startMs > 0) {
+        // Written without the decimal point of the user's locale, which libvlc would misread.
+        char start[48];
+        std::snprintf(start, sizeof start, ":start-time=%lld.%03lld",
+                      static_cast<long long>(startMs / 1000),
+                      static_cast<long long>(startMs % 1000));
+        libvlc_media_add_option(media, start);
     }
+    return media;
+}
+
+void VlcCompat::setTrackMedia(libvlc_instance_t* instance, libvlc_media_player_t* player, int index,
+                              const char* path, uintptr_t window, uintptr_t parking,
+                              int64_t startMs) {
+    libvlc_media_t* media = newMedia(instance, path, index == 0, startMs);
+    if (media == nullptr)
+        return;
+    libvlc_media_player_set_media(player, media);
+    libvlc_media_release(media);
+#if LIBVLC_VERSION_MAJOR >= 4
+    (void)window;
+    (void)parking;
+    // The track is chosen once the picture is up (selectVideoTrack).
+#else
+    if (index <= 0 || index >= 3)
+        return;
+    TrackChoice& choice = g_trackChoices[index];
+    if (choice.player != player) {
+        libvlc_event_attach(libvlc_media_player_event_manager(player), libvlc_MediaPlayerVout,
+                            onParkedOutput, &choice);
+    }
+    choice = {player, index, window};
+    if (parking != 0)
+        setWindow(player, parking);
+#endif
+}
+
+void VlcCompat::retire(libvlc_media_player_t* player) {
+    if (player == nullptr)
+        return;
+#if LIBVLC_VERSION_MAJOR >= 4
+    libvlc_media_player_stop_async(player);
+    libvlc_media_player_release(player);
+#else
+    bool watchesEnd = false;
+    TrackChoice* parked = nullptr;
+    {
+        Registry& reg = registry();
+        std::lock_guard<std::mutex> lock(reg.mutex);
+        reg.stopping.erase(player);
+        reg.stopped.erase(player);
+        const auto it = reg.endWatchers.find(player);
+        watchesEnd = it != reg.endWatchers.end() && it->second > 0;
+        reg.endWatchers.erase(player);
+        for (TrackChoice& choice : g_trackChoices) {
+            if (choice.player == player) {
+                parked = &choice;
+                choice = TrackChoice{};
+            }
+        }
+    }
+    // Detached here rather than on the worker: 3.0 holds the event lock while it calls a
+    // handler, so once these return no handler of the player is running or can post a job
+    // that would run after the release below.
+    libvlc_event_manager_t* manager = libvlc_media_player_event_manager(player);
+    if (watchesEnd)
+        libvlc_event_detach(manager, libvlc_MediaPlayerEndReached, onEndReached, nullptr);
+    if (parked != nullptr)
+        libvlc_event_detach(manager, libvlc_MediaPlayerVout, onParkedOutput, parked);
+    Worker::instance().post([player] {
+        libvlc_media_player_stop(player);
+        libvlc_media_player_release(player);
+    });
 #endif
 }
 

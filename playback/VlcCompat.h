@@ -71,6 +71,20 @@ public:
                                    int count, const char* path, const uintptr_t* windows,
                                    const uintptr_t* parking);
 
+    // A media of the file; sound off for rear channels; playing from startMs when above 0.
+    static libvlc_media_t* newMedia(libvlc_instance_t* instance, const char* path, bool sound,
+                                    int64_t startMs);
+
+    // The same as setSingleFileMedia for one player that joins a single-file recording on its
+    // own (index = its track), starting at startMs.
+    static void setTrackMedia(libvlc_instance_t* instance, libvlc_media_player_t* player, int index,
+                              const char* path, uintptr_t window, uintptr_t parking,
+                              int64_t startMs);
+
+    // Stops a player that is no longer used and releases it, off the calling thread. Its
+    // handlers are dropped first, so the stop reports nothing.
+    static void retire(libvlc_media_player_t* player);
+
     // libvlc_video_take_snapshot of the video output the player shows.
     static int takeSnapshot(libvlc_media_player_t* player, const char* path, unsigned width,
                             unsigned height);

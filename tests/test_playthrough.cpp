@@ -31,6 +31,28 @@ QRgb screenColour(QWidget* widget) {
     const QImage screen = QGuiApplication::primaryScreen()->grabWindow(0).toImage();
     return screen.pixel(centre);
 }
+// Which side of a scene the frame number is on: white pixels in the top third (the front
+// camera's picture) or the bottom third (a rear camera's), left half against right half
+// (+1 left, -1 right, 0 none).
+int frameNumberSide(QWidget* widget, bool front) {
+    const QImage screen = QGuiApplication::primaryScreen()->grabWindow(0).toImage();
+    const QRect area(widget->mapToGlobal(QPoint(0, 0)), widget->size());
+    const int top = front ? area.top() : area.bottom() - area.height() / 3;
+    int left = 0;
+    int right = 0;
+    for (int y = top; y <= top + area.height() / 3; ++y) {
+        for (int x = area.left(); x <= area.right(); ++x) {
+            const QRgb c = screen.pixel(x, y);
+            if (qRed(c) > 200 && qGreen(c) > 200 && qBlue(c) > 200)
+                ++(x < area.center().x() ? left : right);
+        }
+    }
+    if (left > 20 && right < left / 10)
+        return 1;
+    if (right > 20 && left < right / 10)
+        return -1;
+    return 0;
+}
 bool isRed(QRgb c) {
     return qRed(c) > 150 && qGreen(c) < 100 && qBlue(c) < 100;
 }
@@ -105,6 +127,46 @@ private slots:
         QTRY_VERIFY_WITH_TIMEOUT(isRed(screenColour(main)), 3000);
         QTRY_VERIFY_WITH_TIMEOUT(isGreen(screenColour(rear1)), 3000);
         QCOMPARE(main->id(), 0);
+    }
+
+    void flipMirrorsOneScene() {
+        // Paused, so every player has to come back to the paused picture after a flip.
+        auto* main = m_window->findChild<PlayScreenWindow*>();
+        auto* rear1 = m_window->findChild<SubPlayerWindow*>("subPlayerWindow1");
+        auto* rear2 = m_window->findChild<SubPlayerWindow*>("subPlayerWindow2");
+        m_window->player()->onPause();
+        QCOMPARE(PlayerInterface::playStatus, int(PlayerInterface::PlayPaused));
+        QTRY_COMPARE_WITH_TIMEOUT(frameNumberSide(rear1, false), 1, 3000);
+        QCOMPARE(frameNumberSide(main, true), 1);
+
+        QTest::mouseClick(rear1->findChild<QPushButton*>("bFlip"), Qt::LeftButton);
+        QTRY_COMPARE_WITH_TIMEOUT(frameNumberSide(rear1, false), -1, 5000);
+        QVERIFY(isGreen(screenColour(rear1)));
+        QCOMPARE(frameNumberSide(main, true), 1);
+        QCOMPARE(frameNumberSide(rear2, false), 1);
+        QCOMPARE(PlayerInterface::playStatus, int(PlayerInterface::PlayPaused));
+        // Still paused: the mirrored player does not run on.
+        const double rearTime = m_window->player()->engine()->GetChannelTime(1);
+        QTest::qWait(600);
+        QCOMPARE(m_window->player()->engine()->GetChannelTime(1), rearTime);
+
+        // The panel's button mirrors the front camera, which carries the sound.
+        auto* panelFlip = m_window->findChild<QPushButton*>("bFlip");
+        QVERIFY(panelFlip &&
+                panelFlip->parentWidget() == m_window->findChild<QWidget*>("ControlView"));
+        QTest::mouseClick(panelFlip, Qt::LeftButton);
+        QTRY_COMPARE_WITH_TIMEOUT(frameNumberSide(main, true), -1, 5000);
+        QVERIFY(isRed(screenColour(main)));
+
+        // Back as recorded, and playing on in step.
+        QTest::mouseClick(rear1->findChild<QPushButton*>("bFlip"), Qt::LeftButton);
+        QTRY_COMPARE_WITH_TIMEOUT(frameNumberSide(rear1, false), 1, 5000);
+        m_window->player()->onPlay();
+        QCOMPARE(PlayerInterface::playStatus, int(PlayerInterface::PlayRunning));
+        QTRY_VERIFY_WITH_TIMEOUT(m_window->player()->engine()->GetChannelTime(1) > rearTime, 3000);
+        QTRY_VERIFY_WITH_TIMEOUT(std::abs(m_window->player()->engine()->GetChannelTime(1) -
+                                          m_window->player()->engine()->GetCurrentPos()) < 400,
+                                 3000);
     }
 
     void keysControlPlayback() {
@@ -194,6 +256,14 @@ private slots:
         QTest::qWait(1000);
         QVERIFY(isGreen(screenColour(rear1)));
         QVERIFY(isRed(screenColour(main)));
+
+        // A mirrored rear track still shows its own track, in its own scene.
+        m_window->player()->onPause();
+        QTest::mouseClick(rear2->findChild<QPushButton*>("bFlip"), Qt::LeftButton);
+        QTRY_COMPARE_WITH_TIMEOUT(frameNumberSide(rear2, false), -1, 5000);
+        QVERIFY(isBlue(screenColour(rear2)));
+        QVERIFY(isGreen(screenColour(rear1)));
+        QCOMPARE(frameNumberSide(rear1, false), 1);
     }
 };
 

@@ -504,11 +504,14 @@ def make_bench(folder, scratch, copies):
 # --- the player's sets ----------------------------------------------------------------------
 
 def coloured_channel(colour, seconds, path):
-    """A channel filled with one colour, its frame number in a corner: a snapshot tells which
-    channel a player shows and whether a frame step moved on."""
+    """A channel filled with one colour, its frame number in a left corner: a snapshot tells
+    which channel a player shows and whether a frame step moved on, and a mirrored picture
+    has the number on the right. The front camera's number is at the top, the rear cameras'
+    at the bottom, where the scenes' own buttons and panels do not cover it."""
+    y = "10" if colour == "red" else "h-th-10"
     run(["-f", "lavfi", "-i", "color=c=%s:s=320x180:r=30:d=%d" % (colour, seconds),
-         "-vf", "drawtext=font='%s':text='%%{n}':fontsize=40:fontcolor=white:x=10:y=10" % FONT]
-        + X264 + ["-g", "15", path])
+         "-vf", "drawtext=font='%s':text='%%{n}':fontsize=40:fontcolor=white:x=10:y=%s"
+         % (FONT, y)] + X264 + ["-g", "15", path])
 
 
 def make_playback(folder, scratch):
