@@ -4,10 +4,12 @@
 #include "AppGlobals.h"
 #include "LanguageView.h"
 #include "LeftSideView.h"
+#include "ListPrompt.h"
 #include "PlayControlView.h"
 #include "PlayScreenWindow.h"
 #include "PlayerInterface.h"
 #include "RightSideView.h"
+#include "SnapshotWriter.h"
 #include "StatusLog.h"
 #include "SubPlayerWindow.h"
 #include "SubSceneBackWidget.h"
@@ -17,12 +19,14 @@
 #include "TavTypeList.h"
 #include "TavWidget.h"
 #include "TopBar.h"
+#include "VLCComponent.h"
 #include "WaitPlayLogo.h"
 
 #include <QDir>
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QFile>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMimeData>
@@ -307,6 +311,7 @@ void MainWindow::connectControlView() {
     connect(control, &PlayControlView::onSendVolumeChange, player,
             &PlayerInterface::onControlVolume);
     connect(control, &PlayControlView::onClickedFlip, player, &PlayerInterface::onFlip);
+    connect(control, &PlayControlView::onSendRefreshImage, this, &MainWindow::onGetImage);
     connect(control, &PlayControlView::onSendStopTimer, player, &PlayerInterface::onStopTimer);
     connect(control, &PlayControlView::onSendRestartTimer, player,
             &PlayerInterface::onRestartTimer);
@@ -470,6 +475,33 @@ void MainWindow::onChangeSceneView(int slot) {
     QWidget* mainScene = m_playScreen->swapScene(subScene, subId);
     sub->swapScene(mainScene, mainId);
     m_control->setFlipChannel(subId);
+}
+
+void MainWindow::onGetImage() {
+    logDebug("MainWindow::onGetImage");
+    if (PlayerInterface::playStatus != PlayerInterface::PlayRunning &&
+        PlayerInterface::playStatus != PlayerInterface::PlayPaused)
+        return;
+    const QString folder = AppGlobals::snapshotPath.isEmpty() ? SnapshotWriter::defaultFolder()
+                                                              : AppGlobals::snapshotPath;
+    const QString name = QFileInfo(PlayerInterface::currentFile).fileName();
+    const double position = m_player->engine()->GetPosition();
+    QStringList failures;
+    for (int channel = 0; channel < PlayerInterface::playChannelCount && channel < 3; ++channel) {
+        const QString path = SnapshotWriter::fileName(folder, name, channel, position);
+        QString error;
+        if (!SnapshotWriter::save(m_player->getScreenImage(channel), path, &error)) {
+            logWarning("[MainWindow]: snapshot %s not saved: %s", path.toLocal8Bit().constData(),
+                       error.toLocal8Bit().constData());
+            failures << QStringLiteral("%1: %2").arg(QDir::toNativeSeparators(path), error);
+        }
+    }
+    if (failures.isEmpty()) {
+        AppGlobals::snapshotPath = folder;
+        ListPrompt::inform(this, tr("Complete to Save Snapshot!"));
+    } else {
+        ListPrompt::inform(this, tr("Snapshot not saved:") + "\n" + failures.join('\n'));
+    }
 }
 
 void MainWindow::restoreScenes() {

@@ -73,6 +73,8 @@ public slots:
     void openLangaugeDlg();
     void onFinishedDlg();
     void onChangeTextByLanguage();
+    // Saves the picture each camera shows now into the snapshot folder.
+    void onGetImage();
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;

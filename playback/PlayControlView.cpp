@@ -244,14 +244,15 @@ void PlayControlView::onClick_bDelete() {
 
 void PlayControlView::onClick_bCapture() {
     logDebug("PlayControlView::onClick_bCapture");
-    if (m_blocked)
+    // Pictures exist only while a recording is open.
+    if (m_blocked || !isPlayingOrPaused())
         return;
     emit onSendRefreshImage();
 }
 
 void PlayControlView::onClick_bFlip() {
     logDebug("PlayControlView::onClick_bFlip");
-    if (m_blocked)
+    if (m_blocked || !isPlayingOrPaused())
         return;
     emit onClickedFlip(m_flipChannel);
 }

@@ -12,6 +12,7 @@
 #include "TopBar.h"
 #include "VLCComponent.h"
 
+#include <QDir>
 #include <QGuiApplication>
 #include <QPushButton>
 #include <QScreen>
@@ -34,9 +35,7 @@ QRgb screenColour(QWidget* widget) {
 // Which side of a scene the frame number is on: white pixels in the top third (the front
 // camera's picture) or the bottom third (a rear camera's), left half against right half
 // (+1 left, -1 right, 0 none).
-int frameNumberSide(QWidget* widget, bool front) {
-    const QImage screen = QGuiApplication::primaryScreen()->grabWindow(0).toImage();
-    const QRect area(widget->mapToGlobal(QPoint(0, 0)), widget->size());
+int frameNumberSide(const QImage& screen, const QRect& area, bool front) {
     const int top = front ? area.top() : area.bottom() - area.height() / 3;
     int left = 0;
     int right = 0;
@@ -52,6 +51,10 @@ int frameNumberSide(QWidget* widget, bool front) {
     if (right > 20 && left < right / 10)
         return -1;
     return 0;
+}
+int frameNumberSide(QWidget* widget, bool front) {
+    const QImage screen = QGuiApplication::primaryScreen()->grabWindow(0).toImage();
+    return frameNumberSide(screen, QRect(widget->mapToGlobal(QPoint(0, 0)), widget->size()), front);
 }
 bool isRed(QRgb c) {
     return qRed(c) > 150 && qGreen(c) < 100 && qBlue(c) < 100;
@@ -157,6 +160,29 @@ private slots:
         QTest::mouseClick(panelFlip, Qt::LeftButton);
         QTRY_COMPARE_WITH_TIMEOUT(frameNumberSide(main, true), -1, 5000);
         QVERIFY(isRed(screenColour(main)));
+
+        // Capture saves the picture of every camera as it is shown, mirrored or not.
+        QTemporaryDir pictures;
+        AppGlobals::snapshotPath = pictures.path();
+        QStringList messages;
+        ListPrompt::informHook = [&messages](const QString& text) { messages << text; };
+        QTest::mouseClick(m_window->findChild<QPushButton*>("bCapture"), Qt::LeftButton);
+        ListPrompt::informHook = nullptr;
+        AppGlobals::snapshotPath.clear();
+        QCOMPARE(messages, QStringList{"Complete to Save Snapshot!"});
+        const QStringList files =
+            QDir(pictures.path()).entryList({"*.jpg"}, QDir::Files, QDir::Name);
+        QCOMPARE(files.size(), 3);
+        bool (*const colours[])(QRgb) = {isRed, isGreen, isBlue};
+        const int sides[] = {-1, -1, 1};
+        for (int i = 0; i < 3; ++i) {
+            QVERIFY2(files[i].startsWith(QString("20240301_090000_INF_1_%1_").arg(i + 1)),
+                     qPrintable(files[i]));
+            const QImage image(pictures.filePath(files[i]));
+            QCOMPARE(image.size(), QSize(1920, 1080));
+            QVERIFY(colours[i](image.pixel(960, 540)));
+            QCOMPARE(frameNumberSide(image, image.rect(), i == 0), sides[i]);
+        }
 
         // Back as recorded, and playing on in step.
         QTest::mouseClick(rear1->findChild<QPushButton*>("bFlip"), Qt::LeftButton);

@@ -20,6 +20,17 @@
     </message>
   </context>
   <context>
+    <name>MainWindow</name>
+    <message>
+      <source>Complete to Save Snapshot!</source>
+      <translation>Complete to Save Snapshot!</translation>
+    </message>
+    <message>
+      <source>Snapshot not saved:</source>
+      <translation>Snapshot not saved:</translation>
+    </message>
+  </context>
+  <context>
     <name>PlayControlView</name>
     <message>
       <source>Play / Pause</source>
@@ -76,6 +87,17 @@
     <message>
       <source>Frm</source>
       <translation>Frm</translation>
+    </message>
+  </context>
+  <context>
+    <name>SnapshotWriter</name>
+    <message>
+      <source>The camera showed no picture.</source>
+      <translation>The camera showed no picture.</translation>
+    </message>
+    <message>
+      <source>The folder cannot be made.</source>
+      <translation>The folder cannot be made.</translation>
     </message>
   </context>
   <context>

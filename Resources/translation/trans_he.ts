@@ -20,6 +20,17 @@
     </message>
   </context>
   <context>
+    <name>MainWindow</name>
+    <message>
+      <source>Complete to Save Snapshot!</source>
+      <translation>שמירת התמונה הושלמה!</translation>
+    </message>
+    <message>
+      <source>Snapshot not saved:</source>
+      <translation>התמונה לא נשמרה:</translation>
+    </message>
+  </context>
+  <context>
     <name>PlayControlView</name>
     <message>
       <source>Play / Pause</source>
@@ -83,6 +94,17 @@
     <message>
       <source>QT_LAYOUT_DIRECTION</source>
       <translation>RTL</translation>
+    </message>
+  </context>
+  <context>
+    <name>SnapshotWriter</name>
+    <message>
+      <source>The camera showed no picture.</source>
+      <translation>המצלמה לא הציגה תמונה.</translation>
+    </message>
+    <message>
+      <source>The folder cannot be made.</source>
+      <translation>לא ניתן ליצור את התיקייה.</translation>
     </message>
   </context>
   <context>

@@ -20,6 +20,17 @@
     </message>
   </context>
   <context>
+    <name>MainWindow</name>
+    <message>
+      <source>Complete to Save Snapshot!</source>
+      <translation>스냅샷 저장을 완료했습니다!</translation>
+    </message>
+    <message>
+      <source>Snapshot not saved:</source>
+      <translation>스냅샷을 저장하지 못했습니다:</translation>
+    </message>
+  </context>
+  <context>
     <name>PlayControlView</name>
     <message>
       <source>Play / Pause</source>
@@ -76,6 +87,17 @@
     <message>
       <source>Frm</source>
       <translation>프레임</translation>
+    </message>
+  </context>
+  <context>
+    <name>SnapshotWriter</name>
+    <message>
+      <source>The camera showed no picture.</source>
+      <translation>카메라 화면이 없습니다.</translation>
+    </message>
+    <message>
+      <source>The folder cannot be made.</source>
+      <translation>폴더를 만들 수 없습니다.</translation>
     </message>
   </context>
   <context>
