@@ -1,5 +1,6 @@
 #include "SubPlayerWindow.h"
 
+#include "PlayerInterface.h"
 #include "StatusLog.h"
 
 #include <QLabel>
@@ -40,7 +41,8 @@ QWidget* SubPlayerWindow::swapScene(QWidget* scene, int id) {
     // The scene comes back as a new native window on top; the buttons go above it again.
     for (QPushButton* button : {m_arrow, m_flip})
         button->raise();
-    m_flip->setChecked(false);
+    // The button shows whether the camera now in this scene is mirrored.
+    m_flip->setChecked(id >= 0 && id < 3 && PlayerInterface::flipState[id]);
     emit sendVideoResize(m_id, m_scene->size());
     return previous;
 }

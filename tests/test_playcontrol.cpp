@@ -214,6 +214,30 @@ private slots:
         QCOMPARE(frames.count(), 2);
     }
 
+    void flipAndCaptureNeedARecording() {
+        QSignalSpy flip(m_panel, &PlayControlView::onClickedFlip);
+        QSignalSpy capture(m_panel, &PlayControlView::onSendRefreshImage);
+        for (int status : {int(PlayerInterface::PlayStopped), int(PlayerInterface::PlayIdle)}) {
+            setStatus(status);
+            click("bFlip");
+            click("bCapture");
+        }
+        QCOMPARE(flip.count() + capture.count(), 0);
+
+        setStatus(PlayerInterface::PlayPaused);
+        click("bCapture");
+        QCOMPARE(capture.count(), 1);
+        // The flip acts on whichever camera the main scene shows.
+        click("bFlip");
+        m_panel->setFlipChannel(2);
+        click("bFlip");
+        m_panel->setFlipChannel(0);
+        QCOMPARE(flip.count(), 2);
+        QCOMPARE(flip.at(0).at(0).toInt(), 0);
+        QCOMPARE(flip.at(1).at(0).toInt(), 2);
+        setStatus(PlayerInterface::PlayIdle);
+    }
+
     void speedButtons() {
         QSignalSpy speed(m_panel, &PlayControlView::onSendChangeSpeed);
         QVERIFY(!child("bDefaultSpeed")->isEnabled());

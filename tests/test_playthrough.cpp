@@ -145,6 +145,7 @@ private slots:
         QTest::mouseClick(rear1->findChild<QPushButton*>("bFlip"), Qt::LeftButton);
         QTRY_COMPARE_WITH_TIMEOUT(frameNumberSide(rear1, false), -1, 5000);
         QVERIFY(isGreen(screenColour(rear1)));
+        QVERIFY(rear1->findChild<QPushButton*>("bFlip")->isChecked());
         QCOMPARE(frameNumberSide(main, true), 1);
         QCOMPARE(frameNumberSide(rear2, false), 1);
         QCOMPARE(PlayerInterface::playStatus, int(PlayerInterface::PlayPaused));
