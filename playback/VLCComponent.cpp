@@ -6,6 +6,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QScreen>
 #include <QTimer>
 #include <QWidget>
 
@@ -52,6 +53,36 @@ libvlc_instance_t* newInstance(bool mirrored) {
 // How long a player that joins a running recording may take to show its picture.
 constexpr int kSettleIntervalMs = 40;
 constexpr int kSettleTicks = 150;
+// How long a player joining a paused recording plays on at most, once its output is up,
+// before it is paused whether or not its picture was seen in the scene.
+constexpr int kShowTicks = 25;
+
+// A small copy of what a scene shows on screen (null where the screen cannot be read).
+QImage sceneImage(QWidget* scene) {
+    if (scene == nullptr || scene->screen() == nullptr || !scene->isVisible())
+        return QImage();
+    return scene->screen()
+        ->grabWindow(scene->winId())
+        .toImage()
+        .scaled(32, 18, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+        .convertToFormat(QImage::Format_RGB32);
+}
+
+bool imagesDiffer(const QImage& a, const QImage& b) {
+    if (a.isNull() || b.isNull() || a.size() != b.size())
+        return true;
+    long long difference = 0;
+    for (int y = 0; y < a.height(); ++y) {
+        for (int x = 0; x < a.width(); ++x) {
+            const QRgb p = a.pixel(x, y);
+            const QRgb q = b.pixel(x, y);
+            difference += std::abs(qRed(p) - qRed(q)) + std::abs(qGreen(p) - qGreen(q)) +
+                          std::abs(qBlue(p) - qBlue(q));
+        }
+    }
+    // More than a little noise: an average of 2 levels per colour.
+    return difference > 6LL * a.width() * a.height();
+}
 
 } // namespace
 
@@ -455,6 +486,8 @@ void VLCComponent::SetFlip(int channel, bool mirrored) {
     libvlc_media_player_play(player);
     libvlc_media_player_set_rate(player, m_rate);
     resetDriftEstimates();
+    m_sceneBefore[channel] = playerState == Paused ? sceneImage(videoWidgets[channel]) : QImage();
+    m_outputTick[channel] = -1;
     m_settling |= 1 << channel;
     m_settleTicks = 0;
     m_settleTimer->start();
@@ -507,13 +540,22 @@ void VLCComponent::settleReplacedPlayers() {
         if (libvlc_media_player_get_state(player) != libvlc_Playing ||
             libvlc_media_player_has_vout(player) < outputs)
             continue;
+        if (playerState == Paused) {
+            // Paused before its output has drawn, the scene would keep the old player's
+            // last picture: it plays on until the scene changes (or for a moment at most).
+            if (m_outputTick[i] < 0)
+                m_outputTick[i] = m_settleTicks;
+            if (m_settleTicks - m_outputTick[i] < kShowTicks &&
+                !imagesDiffer(m_sceneBefore[i], sceneImage(videoWidgets[i])))
+                continue;
+            libvlc_media_player_set_pause(player, 1);
+        }
         if (i > 0) {
             const libvlc_time_t front = libvlc_media_player_get_time(m_players[0]);
             if (needsPull(i, front))
                 VlcCompat::setTime(player, front, false);
         }
-        if (playerState == Paused)
-            libvlc_media_player_set_pause(player, 1);
+        m_sceneBefore[i] = QImage();
         m_settling &= ~(1 << i);
     }
     if (m_settling == 0)

@@ -4,6 +4,7 @@
 #include <QObject>
 
 #include <QByteArray>
+#include <QImage>
 #include <QSize>
 
 #include <vlc/vlc.h>
@@ -147,6 +148,10 @@ private:
     QTimer* m_settleTimer;
     int m_settling = 0;
     int m_settleTicks = 0;
+    // While paused: the scene as it was before the flip, and the tick at which the new
+    // player's output was up. It is paused once the scene shows its picture.
+    QImage m_sceneBefore[kMaxChannels];
+    int m_outputTick[kMaxChannels] = {-1, -1, -1};
     // Hidden windows a rear player draws into until its track is chosen (libvlc 3.0).
     QWidget* m_parking[kMaxChannels] = {nullptr, nullptr, nullptr};
     DriftEstimator m_drift[kMaxChannels];
