@@ -1,6 +1,7 @@
 #include "VLCComponent.h"
 
 #include "DriftEstimator.h"
+#include "FreedMemory.h"
 #include "StatusLog.h"
 #include "VlcCompat.h"
 
@@ -558,8 +559,11 @@ void VLCComponent::settleReplacedPlayers() {
         m_sceneBefore[i] = QImage();
         m_settling &= ~(1 << i);
     }
-    if (m_settling == 0)
+    if (m_settling == 0) {
         m_settleTimer->stop();
+        // The replaced player is gone by now; its decoders' memory goes back to the system.
+        platform::returnFreedMemory();
+    }
 }
 
 bool VLCComponent::stoppingOrStopped() const {

@@ -1,0 +1,11 @@
+#include "FreedMemory.h"
+
+#include <malloc.h>
+
+namespace platform {
+
+void returnFreedMemory() {
+    _heapmin();
+}
+
+} // namespace platform
