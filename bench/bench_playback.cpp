@@ -6,7 +6,10 @@
 //   2. the offset between the channels as the user sees them: every 250 ms the three scenes
 //      are grabbed from the screen and their frame numbers read, for 20 s, through the
 //      coordinator and for three plain libvlc players started together;
-//   3. the processor time both use for that playback.
+//   3. the processor time both use for that playback;
+//   4. mirroring a rear camera while it plays: time until the mirrored picture is on screen,
+//      its offset from the front camera a second later, and the memory the flips leave
+//      behind against the same time of playing without flips.
 // Run under a virtual X server: xvfb-run -a -s "-screen 0 1600x900x24" ./bench_playback
 #include "AppGlobals.h"
 #include "PlayerInterface.h"
@@ -15,6 +18,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QElapsedTimer>
+#include <QFile>
 #include <QGuiApplication>
 #include <QImage>
 #include <QProcess>
@@ -63,15 +67,17 @@ struct Scenes {
         }
         window.show();
     }
-    // The frame number each scene shows now, -1 where it cannot be read.
-    std::vector<int> frames() {
+    // The frame number each scene shows now, read left to right (or right to left, for
+    // mirrored pictures).
+    std::vector<int> frames(bool mirrored = false) {
         const QImage image = QGuiApplication::primaryScreen()->grabWindow(window.winId()).toImage();
         std::vector<int> result;
         for (QWidget* scene : box) {
             const QRect r = scene->geometry();
             int value = 0;
             for (int bit = 0; bit < kBits; ++bit) {
-                const int x = r.x() + int((bit + 0.5) * r.width() / kBits);
+                const int slot = mirrored ? kBits - 1 - bit : bit;
+                const int x = r.x() + int((slot + 0.5) * r.width() / kBits);
                 const int y = r.y() + r.height() * 24 / 1080;
                 if (qGray(image.pixel(x, y)) > 128)
                     value |= 1 << bit;
@@ -94,6 +100,22 @@ double cpuSeconds() {
     getrusage(RUSAGE_SELF, &usage);
     return usage.ru_utime.tv_sec + usage.ru_stime.tv_sec +
            (usage.ru_utime.tv_usec + usage.ru_stime.tv_usec) / 1e6;
+}
+
+long residentKb() {
+    QFile status("/proc/self/status");
+    if (!status.open(QIODevice::ReadOnly))
+        return -1;
+    for (const QByteArray& line : status.readAll().split('\n')) {
+        if (line.startsWith("VmRSS:"))
+            return line.mid(6).trimmed().split(' ').value(0).toLong();
+    }
+    return -1;
+}
+
+// A frame number is believable when it is within two seconds of the front camera's.
+bool near(int frame, int front) {
+    return front > 0 && std::abs(frame - front) <= 2 * kFps;
 }
 
 double median(std::vector<double> values) {
@@ -293,6 +315,68 @@ int main(int argc, char** argv) {
         baseline.start(scenes, 3);
         printOffsets("three plain libvlc players", sampleOffsets(scenes, 3));
         baseline.stop(3);
+    }
+
+    constexpr int kFlips = 5;
+    constexpr int kQuietMs = 4000;
+    std::printf("Mirroring the first rear camera while playing (%d flips, 3 s apart)\n", kFlips);
+    {
+        PlayerInterface player(&scenes.window);
+        player.setMainScreen(scenes.video[0]);
+        player.setSub1Screen(scenes.video[1]);
+        player.setSub2Screen(scenes.video[2]);
+        openThroughCoordinator(player);
+        wait(1000);
+        const long quietStart = residentKb();
+        wait(kQuietMs);
+        const long quietGrowth = residentKb() - quietStart;
+
+        std::vector<double> shown, offsetSoon, offsetLater;
+        int neverShown = 0;
+        const long flipStart = residentKb();
+        // The rear camera's distance from the front one as seen on screen, when readable.
+        const auto offset = [&scenes](bool mirrored, std::vector<double>& into) {
+            const int front = scenes.frames()[0];
+            const int rear = scenes.frames(mirrored)[1];
+            if (near(rear, front))
+                into.push_back(std::abs(rear - front) * 1000.0 / kFps);
+        };
+        for (int i = 0; i < kFlips; ++i) {
+            const bool mirrored = !PlayerInterface::flipState[1];
+            QElapsedTimer clock;
+            clock.start();
+            player.onFlip(1);
+            double seenMs = -1;
+            while (clock.elapsed() < 5000) {
+                wait(5);
+                const int front = scenes.frames()[0];
+                if (near(scenes.frames(mirrored)[1], front) &&
+                    !near(scenes.frames(!mirrored)[1], front)) {
+                    seenMs = clock.nsecsElapsed() / 1e6;
+                    break;
+                }
+            }
+            if (seenMs < 0)
+                ++neverShown;
+            else
+                shown.push_back(seenMs);
+            wait(int(1000 - clock.elapsed()));
+            offset(mirrored, offsetSoon);
+            wait(2000);
+            offset(mirrored, offsetLater);
+        }
+        const long flipGrowth = residentKb() - flipStart;
+        const double worst = shown.empty() ? -1 : *std::max_element(shown.begin(), shown.end());
+        std::printf("  flip -> mirrored picture on screen  median %6.1f ms  max %6.1f ms  (%d "
+                    "never seen)\n",
+                    median(shown), worst, neverShown);
+        std::printf("  offset from the front camera  1 s after a flip: median %6.1f ms;  3 s "
+                    "after: median %6.1f ms  (%zu / %zu readable)\n",
+                    median(offsetSoon), median(offsetLater), offsetSoon.size(), offsetLater.size());
+        std::printf("  resident memory  %+6.1f MB over the flips (%.0f s)  vs  %+6.1f MB over "
+                    "%.0f s of playing without flips (baseline)\n",
+                    flipGrowth / 1024.0, kFlips * 3.0, quietGrowth / 1024.0, kQuietMs / 1000.0);
+        stopCoordinator(player);
     }
     return 0;
 }

@@ -11,6 +11,7 @@
 #include <QTimer>
 #include <QWidget>
 
+#include <algorithm>
 #include <cmath>
 #include <cstdlib>
 #include <cstring>
@@ -54,8 +55,8 @@ libvlc_instance_t* newInstance(bool mirrored) {
 // How long a player that joins a running recording may take to show its picture.
 constexpr int kSettleIntervalMs = 40;
 constexpr int kSettleTicks = 150;
-// How long a player joining a paused recording plays on at most, once its output is up,
-// before it is paused whether or not its picture was seen in the scene.
+// How long a player joining a recording may take, once its output is up, before it counts
+// as shown whether or not its picture was seen in the scene.
 constexpr int kShowTicks = 25;
 
 // A small copy of what a scene shows on screen (null where the screen cannot be read).
@@ -463,7 +464,8 @@ void VLCComponent::SetFlip(int channel, bool mirrored) {
             return;
         }
     }
-    const libvlc_time_t now = libvlc_media_player_get_time(m_players[0]);
+    const libvlc_time_t start =
+        std::max<libvlc_time_t>(libvlc_media_player_get_time(m_players[0]), 0);
     const uintptr_t window =
         videoWidgets[channel] != nullptr ? videoWidgets[channel]->winId() : uintptr_t(0);
     libvlc_media_player_t* player = replacePlayer(channel, mirrored);
@@ -472,22 +474,22 @@ void VLCComponent::SetFlip(int channel, bool mirrored) {
     libvlc_instance_t* instance = mirrored ? m_mirrorInstance : m_instance;
     VlcCompat::setWindow(player, window);
     if (m_splitChannelFiles) {
-        libvlc_media_t* media = VlcCompat::newMedia(instance, m_channelFiles[channel].constData(),
-                                                    channel == 0, std::max<int64_t>(now, 0));
+        libvlc_media_t* media =
+            VlcCompat::newMedia(instance, m_channelFiles[channel].constData(), channel == 0, start);
         if (media == nullptr)
             return;
         libvlc_media_player_set_media(player, media);
         libvlc_media_release(media);
     } else {
         VlcCompat::setTrackMedia(instance, player, channel, m_filePath.constData(), window,
-                                 m_parking[channel]->winId(), std::max<int64_t>(now, 0));
+                                 m_parking[channel]->winId(), start);
     }
     if (channel == 0)
         chooseAudioOutput(player);
     libvlc_media_player_play(player);
     libvlc_media_player_set_rate(player, m_rate);
     resetDriftEstimates();
-    m_sceneBefore[channel] = playerState == Paused ? sceneImage(videoWidgets[channel]) : QImage();
+    m_sceneBefore[channel] = sceneImage(videoWidgets[channel]);
     m_outputTick[channel] = -1;
     m_settling |= 1 << channel;
     m_settleTicks = 0;
@@ -530,6 +532,7 @@ void VLCComponent::settleReplacedPlayers() {
         m_settleTimer->stop();
         return;
     }
+    bool realign = false;
     for (int i = 0; i < kMaxChannels; ++i) {
         if (!(m_settling & (1 << i)))
             continue;
@@ -541,23 +544,30 @@ void VLCComponent::settleReplacedPlayers() {
         if (libvlc_media_player_get_state(player) != libvlc_Playing ||
             libvlc_media_player_has_vout(player) < outputs)
             continue;
+        // The old player's last picture stays in the scene until the new one draws: the new
+        // player counts as shown once the scene changes (or after a moment at most).
+        if (m_outputTick[i] < 0)
+            m_outputTick[i] = m_settleTicks;
+        if (m_settleTicks - m_outputTick[i] < kShowTicks &&
+            !imagesDiffer(m_sceneBefore[i], sceneImage(videoWidgets[i])))
+            continue;
         if (playerState == Paused) {
-            // Paused before its output has drawn, the scene would keep the old player's
-            // last picture: it plays on until the scene changes (or for a moment at most).
-            if (m_outputTick[i] < 0)
-                m_outputTick[i] = m_settleTicks;
-            if (m_settleTicks - m_outputTick[i] < kShowTicks &&
-                !imagesDiffer(m_sceneBefore[i], sceneImage(videoWidgets[i])))
-                continue;
+            // Paused before its output has drawn, it would leave the old picture there.
             libvlc_media_player_set_pause(player, 1);
-        }
-        if (i > 0) {
-            const libvlc_time_t front = libvlc_media_player_get_time(m_players[0]);
-            if (needsPull(i, front))
-                VlcCompat::setTime(player, front, false);
+            // And it stays where it started, next to the paused front camera.
+        } else {
+            realign = true;
         }
         m_sceneBefore[i] = QImage();
         m_settling &= ~(1 << i);
+    }
+    // A player started on its own is never quite where the others are (libvlc 3.0 starts
+    // at a key frame near the time asked for). Moving every channel to the same time at
+    // once puts them back in step, as any seek does.
+    if (realign && m_settling == 0) {
+        const libvlc_time_t front = libvlc_media_player_get_time(m_players[0]);
+        if (front >= 0)
+            Seek(int(front));
     }
     if (m_settling == 0) {
         m_settleTimer->stop();
@@ -592,12 +602,16 @@ void VLCComponent::onStopped(const libvlc_event_t*, void* self) {
     logDebug("VLCComponent::VLC_Stop_cb");
     // libvlc 3.0 may report the end of a media that played out as Stopped and again when the
     // player is then stopped: one stop moves on once.
-    if (engine->m_stopDelivered.exchange(true))
-        return;
     const int reason = stopReason;
-    // The state goes first: receivers of the signals below run on the GUI thread and must
-    // find the player stopped.
-    playerState = Stopped;
+    {
+        // The state goes first: receivers of the signals below run on the GUI thread and
+        // must find the player stopped. A Stopping raised at the same time must not
+        // overwrite it.
+        std::lock_guard<std::mutex> lock(engine->m_stopMutex);
+        if (engine->m_stopDelivered.exchange(true))
+            return;
+        playerState = Stopped;
+    }
     switch (reason) {
     case StopGoNext:
         emit engine->send_GoNext();
@@ -645,13 +659,18 @@ void VLCComponent::onEvent(const libvlc_event_t* event, void* self) {
     auto* engine = static_cast<VLCComponent*>(self);
     const auto type = static_cast<libvlc_event_type_t>(event->type);
     if (type == VlcCompat::kStopping) {
-        // The stop of a media that already reported its end changes nothing.
-        if (engine->m_stopDelivered)
-            return;
+        {
+            // The stop of a media that already reported its end changes nothing. (3.0
+            // reports the end of a media that played out while the end is being turned
+            // into a stop, so the two can meet.)
+            std::lock_guard<std::mutex> lock(engine->m_stopMutex);
+            if (engine->m_stopDelivered)
+                return;
+            playerState = Stopping;
+        }
         logDebug("VLCComponent::libvlc_MediaPlayerStopping");
         logInfo("********** event_occur libvlc_MediaPlayerStopping **********");
         emit engine->send_ShowWidget(false);
-        playerState = Stopping;
         return;
     }
     switch (type) {
@@ -768,7 +787,9 @@ void VLCComponent::syncRearChannels() {
     if (front <= 0)
         return;
     for (int i = 1; i < channelCount && i < kMaxChannels; ++i) {
-        if (libvlc_media_player_get_state(m_players[i]) != libvlc_Playing)
+        // A player that joined after a flip is left alone until it shows its picture.
+        if (libvlc_media_player_get_state(m_players[i]) != libvlc_Playing ||
+            (m_settling & (1 << i)))
             continue;
         const double rear = double(libvlc_media_player_get_time(m_players[i]));
         const DriftEstimator::Decision decision = m_drift[i].add(front, rear);

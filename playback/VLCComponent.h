@@ -10,6 +10,7 @@
 #include <vlc/vlc.h>
 
 #include <atomic>
+#include <mutex>
 
 class QTimer;
 class QWidget;
@@ -148,8 +149,8 @@ private:
     QTimer* m_settleTimer;
     int m_settling = 0;
     int m_settleTicks = 0;
-    // While paused: the scene as it was before the flip, and the tick at which the new
-    // player's output was up. It is paused once the scene shows its picture.
+    // The scene as it was before the flip, and the tick at which the new player's output was
+    // up; the player has shown its picture once the scene changes.
     QImage m_sceneBefore[kMaxChannels];
     int m_outputTick[kMaxChannels] = {-1, -1, -1};
     // Hidden windows a rear player draws into until its track is chosen (libvlc 3.0).
@@ -158,6 +159,7 @@ private:
     float m_rate = 1.0f;
     std::atomic<bool> m_firstPictureSeen{false};
     std::atomic<bool> m_stopDelivered{false};
+    std::mutex m_stopMutex;
     static constexpr int kTrackRetryMs = 50;
     static constexpr int kTrackRetries = 60;
     int m_trackPending = 0;
