@@ -202,6 +202,14 @@ private slots:
         QTRY_VERIFY_WITH_TIMEOUT(engine->GetChannelTime(1) > rearTime, 3000);
         QTRY_VERIFY_WITH_TIMEOUT(
             std::abs(engine->GetChannelTime(1) - engine->GetCurrentPos()) < 400, 3000);
+
+        // While playing: the mirrored camera joins the others and plays on with them.
+        QTest::mouseClick(rear2->findChild<QPushButton*>("bFlip"), Qt::LeftButton);
+        QTRY_COMPARE_WITH_TIMEOUT(frameNumberSide(rear2, false), -1, 3000);
+        QVERIFY(isBlue(screenColour(rear2)));
+        QCOMPARE(PlayerInterface::playStatus, int(PlayerInterface::PlayRunning));
+        QTRY_VERIFY_WITH_TIMEOUT(
+            std::abs(engine->GetChannelTime(2) - engine->GetCurrentPos()) < 400, 3000);
     }
 
     void keysControlPlayback() {
