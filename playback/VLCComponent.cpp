@@ -365,8 +365,10 @@ void VLCComponent::Forward(int ms) {
         return;
     }
     if (m_totalTime - target <= 0) {
+        // Held at the end, paused: the players must not run on into the end of the media,
+        // which would move on to the next recording behind the user's back.
         Seek(int(m_totalTime));
-        playerState = Paused;
+        Pause();
         return;
     }
     Seek(int(target));
