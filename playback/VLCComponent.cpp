@@ -418,6 +418,11 @@ void VLCComponent::SetVolume(int volume) {
 
 void VLCComponent::SetMute(bool mute) {
     logDebug("VLCComponent::SetMute");
+    // Kept for when a new front player has drawn its paused picture.
+    if (m_muteAfterSettle >= 0) {
+        m_muteAfterSettle = mute ? 1 : 0;
+        return;
+    }
     libvlc_audio_set_mute(m_players[0], mute ? 1 : 0);
 }
 
@@ -486,8 +491,14 @@ void VLCComponent::SetFlip(int channel, bool mirrored) {
         VlcCompat::setTrackMedia(instance, player, channel, m_filePath.constData(), window,
                                  m_parking[channel]->winId(), start);
     }
-    if (channel == 0)
+    if (channel == 0) {
         chooseAudioOutput(player);
+        // A paused recording stays silent while the new front player draws its picture.
+        if (playerState == Paused && m_muteAfterSettle < 0) {
+            m_muteAfterSettle = libvlc_audio_get_mute(player) == 1 ? 1 : 0;
+            libvlc_audio_set_mute(player, 1);
+        }
+    }
     libvlc_media_player_play(player);
     libvlc_media_player_set_rate(player, m_rate);
     resetDriftEstimates();
@@ -496,10 +507,6 @@ void VLCComponent::SetFlip(int channel, bool mirrored) {
     m_settling |= 1 << channel;
     m_settleTicks = 0;
     m_settleTimer->start();
-}
-
-bool VLCComponent::IsFlipped(int channel) const {
-    return channel >= 0 && channel < kMaxChannels && m_mirrored[channel];
 }
 
 libvlc_media_player_t* VLCComponent::replacePlayer(int channel, bool mirrored) {
@@ -526,12 +533,14 @@ void VLCComponent::settleReplacedPlayers() {
     if (m_settling == 0 || stoppingOrStopped()) {
         m_settling = 0;
         m_settleTimer->stop();
+        restoreFrontMute();
         return;
     }
     if (++m_settleTicks > kSettleTicks) {
         logWarning("[VLCComponent]: players 0x%x showed no picture after a flip", m_settling);
         m_settling = 0;
         m_settleTimer->stop();
+        restoreFrontMute();
         return;
     }
     bool realign = false;
@@ -562,6 +571,8 @@ void VLCComponent::settleReplacedPlayers() {
         }
         m_sceneBefore[i] = QImage();
         m_settling &= ~(1 << i);
+        if (i == 0)
+            restoreFrontMute();
     }
     // A player started on its own is never quite where the others are (libvlc 3.0 starts
     // at a key frame near the time asked for). Moving every channel to the same time at
@@ -576,6 +587,13 @@ void VLCComponent::settleReplacedPlayers() {
         // The replaced player is gone by now; its decoders' memory goes back to the system.
         platform::returnFreedMemory();
     }
+}
+
+void VLCComponent::restoreFrontMute() {
+    if (m_muteAfterSettle < 0)
+        return;
+    libvlc_audio_set_mute(m_players[0], m_muteAfterSettle);
+    m_muteAfterSettle = -1;
 }
 
 bool VLCComponent::stoppingOrStopped() const {

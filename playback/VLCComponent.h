@@ -79,7 +79,6 @@ public:
     // Shows a channel's picture mirrored left to right, or as recorded again. Takes effect
     // at once while a recording plays or is paused; a new recording starts unmirrored.
     void SetFlip(int channel, bool mirrored);
-    bool IsFlipped(int channel) const;
 
     // Time of one channel's player in ms (for checks of the channels' step).
     double GetChannelTime(int channel);
@@ -128,6 +127,7 @@ private:
     // old one is stopped and released in the background.
     libvlc_media_player_t* replacePlayer(int channel, bool mirrored);
     void chooseAudioOutput(libvlc_media_player_t* player);
+    void restoreFrontMute();
     bool stoppingOrStopped() const;
     // Whether a rear player is measurably off the front player's time.
     bool needsPull(int channel, libvlc_time_t front) const;
@@ -153,6 +153,8 @@ private:
     // up; the player has shown its picture once the scene changes.
     QImage m_sceneBefore[kMaxChannels];
     int m_outputTick[kMaxChannels] = {-1, -1, -1};
+    // The front player's mute while a new front player plays silently to a paused picture.
+    int m_muteAfterSettle = -1;
     // Hidden windows a rear player draws into until its track is chosen (libvlc 3.0).
     QWidget* m_parking[kMaxChannels] = {nullptr, nullptr, nullptr};
     DriftEstimator m_drift[kMaxChannels];

@@ -260,6 +260,12 @@ private slots:
                                  15000);
         waitForPicture();
         QCOMPARE(VLCComponent::channelCount, 2);
+        // The cameras mirrored in the last recording start this one as recorded.
+        QTRY_COMPARE_WITH_TIMEOUT(frameNumberSide(m_window->findChild<PlayScreenWindow*>(), true),
+                                  1, 3000);
+        auto* rear1 = m_window->findChild<SubPlayerWindow*>("subPlayerWindow1");
+        QTRY_COMPARE_WITH_TIMEOUT(frameNumberSide(rear1, false), 1, 3000);
+        QVERIFY(!rear1->findChild<QPushButton*>("bFlip")->isChecked());
     }
 
     void deletingThePlayingRowStopsIt() {
