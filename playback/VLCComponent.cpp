@@ -574,9 +574,9 @@ void VLCComponent::settleReplacedPlayers() {
         if (i == 0)
             restoreFrontMute();
     }
-    // A player started on its own is never quite where the others are (libvlc 3.0 starts
-    // at a key frame near the time asked for). Moving every channel to the same time at
-    // once puts them back in step, as any seek does.
+    // A player started on its own is never quite where the others are (it stayed 300-570 ms
+    // behind when only it was pulled). Moving every channel to the same time at once puts
+    // them back in step, as any seek does.
     if (realign && m_settling == 0) {
         const libvlc_time_t front = libvlc_media_player_get_time(m_players[0]);
         if (front >= 0)
