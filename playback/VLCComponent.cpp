@@ -29,24 +29,16 @@ void discardLog(void*, int, const libvlc_log_t*, const char*, va_list) {}
 
 // The one set of arguments every channel plays with; a mirroring instance adds the filter.
 libvlc_instance_t* newInstance(bool mirrored) {
-    const char* const args[] = {"--no-keyboard-events",
-                                "--no-mouse-events",
-                                "--mouse-hide-timeout=-1",
-                                "--no-sub-autodetect-file",
-                                "--no-interact",
-                                "--no-stats",
-                                "--no-snapshot-preview",
-                                "--no-snapshot-sequential",
-                                "--avcodec-threads=0",
-                                "--file-caching=1000",
-                                "--verbose=1",
-                                "--clock-jitter=5000",
-                                "--clock-synchro=0",
-                                "--video-filter=transform",
-                                "--transform-type=hflip"};
-    const int plain = 13;
-    libvlc_instance_t* instance =
-        libvlc_new(mirrored ? int(sizeof args / sizeof args[0]) : plain, args);
+    const char* const args[] = {
+        "--no-keyboard-events", "--no-mouse-events", "--mouse-hide-timeout=-1",
+        "--no-sub-autodetect-file", "--no-interact", "--no-stats", "--no-snapshot-preview",
+        "--no-snapshot-sequential", "--avcodec-threads=0", "--file-caching=1000", "--verbose=1",
+        "--clock-jitter=5000", "--clock-synchro=0",
+        // the mirroring instance only:
+        "--video-filter=transform", "--transform-type=hflip"};
+    constexpr int kAll = int(sizeof args / sizeof args[0]);
+    constexpr int kMirrorOnly = 2;
+    libvlc_instance_t* instance = libvlc_new(mirrored ? kAll : kAll - kMirrorOnly, args);
     if (instance != nullptr)
         libvlc_log_set(instance, discardLog, nullptr);
     return instance;
@@ -173,9 +165,9 @@ void VLCComponent::SetFile(char* path, int count, double totalTime) {
     logDebug("VLCComponent::SetFile");
     if (m_players[0] == nullptr)
         return;
-    // Every recording starts as it was recorded.
+    // Every recording starts as it was recorded (and with the sound as the user left it).
     m_settling = 0;
-    m_settleTimer->stop();
+    finishSettling();
     for (int i = 0; i < kMaxChannels; ++i) {
         if (m_mirrored[i])
             replacePlayer(i, false);
@@ -248,14 +240,10 @@ void VLCComponent::SetSplitChannelFiles(const char* path) {
         m_channelFiles[i] = i < found.size() ? found[i].toUtf8() : QByteArray();
         if (i >= found.size())
             continue;
-        libvlc_media_t* media =
-            VlcCompat::newMedia(m_instance, m_channelFiles[i].constData(), i == 0, 0);
-        if (media == nullptr)
-            continue;
-        libvlc_media_player_set_media(m_players[i], media);
-        if (i == 0)
+        if (VlcCompat::setMedia(m_instance, m_players[i], m_channelFiles[i].constData(), i == 0,
+                                0) &&
+            i == 0)
             channelCount = found.size();
-        libvlc_media_release(media);
     }
     playerState = FileSet;
 }
@@ -478,15 +466,12 @@ void VLCComponent::SetFlip(int channel, bool mirrored) {
     libvlc_media_player_t* player = replacePlayer(channel, mirrored);
     if (player == nullptr)
         return;
-    libvlc_instance_t* instance = mirrored ? m_mirrorInstance : m_instance;
+    libvlc_instance_t* instance = instanceFor(mirrored);
     VlcCompat::setWindow(player, window);
     if (m_splitChannelFiles) {
-        libvlc_media_t* media =
-            VlcCompat::newMedia(instance, m_channelFiles[channel].constData(), channel == 0, start);
-        if (media == nullptr)
+        if (!VlcCompat::setMedia(instance, player, m_channelFiles[channel].constData(),
+                                 channel == 0, start))
             return;
-        libvlc_media_player_set_media(player, media);
-        libvlc_media_release(media);
     } else {
         VlcCompat::setTrackMedia(instance, player, channel, m_filePath.constData(), window,
                                  m_parking[channel]->winId(), start);
@@ -510,7 +495,7 @@ void VLCComponent::SetFlip(int channel, bool mirrored) {
 }
 
 libvlc_media_player_t* VLCComponent::replacePlayer(int channel, bool mirrored) {
-    libvlc_instance_t* instance = mirrored ? m_mirrorInstance : m_instance;
+    libvlc_instance_t* instance = instanceFor(mirrored);
     libvlc_media_player_t* player = instance ? libvlc_media_player_new(instance) : nullptr;
     if (player == nullptr)
         return nullptr;
@@ -530,17 +515,12 @@ libvlc_media_player_t* VLCComponent::replacePlayer(int channel, bool mirrored) {
 }
 
 void VLCComponent::settleReplacedPlayers() {
-    if (m_settling == 0 || stoppingOrStopped()) {
-        m_settling = 0;
-        m_settleTimer->stop();
-        restoreFrontMute();
-        return;
-    }
-    if (++m_settleTicks > kSettleTicks) {
+    const bool over = m_settling == 0 || stoppingOrStopped();
+    if (!over && ++m_settleTicks > kSettleTicks)
         logWarning("[VLCComponent]: players 0x%x showed no picture after a flip", m_settling);
+    if (over || m_settleTicks > kSettleTicks) {
         m_settling = 0;
-        m_settleTimer->stop();
-        restoreFrontMute();
+        finishSettling();
         return;
     }
     bool realign = false;
@@ -582,11 +562,8 @@ void VLCComponent::settleReplacedPlayers() {
         if (front >= 0)
             Seek(int(front));
     }
-    if (m_settling == 0) {
-        m_settleTimer->stop();
-        // The replaced player is gone by now; its decoders' memory goes back to the system.
-        platform::returnFreedMemory();
-    }
+    if (m_settling == 0)
+        finishSettling();
 }
 
 void VLCComponent::restoreFrontMute() {
@@ -594,6 +571,13 @@ void VLCComponent::restoreFrontMute() {
         return;
     libvlc_audio_set_mute(m_players[0], m_muteAfterSettle);
     m_muteAfterSettle = -1;
+}
+
+void VLCComponent::finishSettling() {
+    m_settleTimer->stop();
+    restoreFrontMute();
+    // The replaced players are gone by now; their decoders' memory goes back to the system.
+    platform::returnFreedMemory();
 }
 
 bool VLCComponent::stoppingOrStopped() const {

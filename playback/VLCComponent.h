@@ -126,8 +126,13 @@ private:
     // Puts a new player of the plain or the mirroring instance in a channel's place; the
     // old one is stopped and released in the background.
     libvlc_media_player_t* replacePlayer(int channel, bool mirrored);
+    libvlc_instance_t* instanceFor(bool mirrored) const {
+        return mirrored ? m_mirrorInstance : m_instance;
+    }
     void chooseAudioOutput(libvlc_media_player_t* player);
     void restoreFrontMute();
+    // No player is settling any more: timer off, the front camera's mute back.
+    void finishSettling();
     bool stoppingOrStopped() const;
     // Whether a rear player is measurably off the front player's time.
     bool needsPull(int channel, libvlc_time_t front) const;

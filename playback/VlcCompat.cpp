@@ -350,8 +350,8 @@ void VlcCompat::setSingleFileMedia(libvlc_instance_t* instance, libvlc_media_pla
 #endif
 }
 
-libvlc_media_t* VlcCompat::newMedia(libvlc_instance_t* instance, const char* path, bool sound,
-                                    int64_t startMs) {
+bool VlcCompat::setMedia(libvlc_instance_t* instance, libvlc_media_player_t* player,
+                         const char* path, bool sound, int64_t startMs) {
 #if LIBVLC_VERSION_MAJOR >= 4
     libvlc_media_t* media = libvlc_media_new_path(path);
     (void)instance;
@@ -359,7 +359,7 @@ libvlc_media_t* VlcCompat::newMedia(libvlc_instance_t* instance, const char* pat
     libvlc_media_t* media = libvlc_media_new_path(instance, path);
 #endif
     if (media == nullptr)
-        return nullptr;
+        return false;
     if (!sound)
         libvlc_media_add_option(media, "no-audio");
     if (startMs > 0) {
@@ -370,17 +370,16 @@ libvlc_media_t* VlcCompat::newMedia(libvlc_instance_t* instance, const char* pat
                       static_cast<long long>(startMs % 1000));
         libvlc_media_add_option(media, start);
     }
-    return media;
+    libvlc_media_player_set_media(player, media);
+    libvlc_media_release(media);
+    return true;
 }
 
 void VlcCompat::setTrackMedia(libvlc_instance_t* instance, libvlc_media_player_t* player, int index,
                               const char* path, uintptr_t window, uintptr_t parking,
                               int64_t startMs) {
-    libvlc_media_t* media = newMedia(instance, path, index == 0, startMs);
-    if (media == nullptr)
+    if (!setMedia(instance, player, path, index == 0, startMs))
         return;
-    libvlc_media_player_set_media(player, media);
-    libvlc_media_release(media);
 #if LIBVLC_VERSION_MAJOR >= 4
     (void)window;
     (void)parking;

@@ -71,9 +71,10 @@ public:
                                    int count, const char* path, const uintptr_t* windows,
                                    const uintptr_t* parking);
 
-    // A media of the file; sound off for rear channels; playing from startMs when above 0.
-    static libvlc_media_t* newMedia(libvlc_instance_t* instance, const char* path, bool sound,
-                                    int64_t startMs);
+    // Gives the player a media of the file: sound off for rear channels, playing from startMs
+    // when above 0. False when libvlc cannot make the media.
+    static bool setMedia(libvlc_instance_t* instance, libvlc_media_player_t* player,
+                         const char* path, bool sound, int64_t startMs);
 
     // The same as setSingleFileMedia for one player that joins a single-file recording on its
     // own (index = its track), starting at startMs.
