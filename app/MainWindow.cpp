@@ -487,7 +487,9 @@ void MainWindow::onGetImage() {
     const QString name = QFileInfo(PlayerInterface::currentFile).fileName();
     const double position = m_player->engine()->GetPosition();
     QStringList failures;
-    for (int channel = 0; channel < PlayerInterface::playChannelCount && channel < 3; ++channel) {
+    for (int channel = 0;
+         channel < PlayerInterface::playChannelCount && channel < VLCComponent::kMaxChannels;
+         ++channel) {
         const QString path = SnapshotWriter::fileName(folder, name, channel, position);
         QString error;
         if (!SnapshotWriter::save(m_player->getScreenImage(channel), path, &error)) {
