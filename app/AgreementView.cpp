@@ -80,6 +80,8 @@ void AgreementView::onChangeTextByLanguage() {
     UiDescription ui;
     ui.open(QStringLiteral("AgreementView"));
     m_title->setText(ui.translatedText("DlgName"));
+    // The dialog has no frame of its own; the title still names its window for the desktop.
+    setWindowTitle(m_title->text());
     m_context->setText(ui.translatedText("context"));
     m_updateChecks->setText(ui.translatedText("chkUpdate"));
     m_crashReports->setText(ui.translatedText("chkReport"));

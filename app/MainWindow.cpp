@@ -106,7 +106,12 @@ bool MainWindow::acceptAgreementValue(const QString& value) {
 void MainWindow::checkAgreement() {
     const QString agreement = AppGlobals::settings->value("agreement").toString();
     if (agreement.isEmpty()) {
-        auto* dialog = new AgreementView(this);
+        // Asked without a parent: a dialog with this window as its parent makes the window's
+        // native handle before any child exists. The scenes' native windows made later would
+        // then be stacked by the order of their making rather than the widgets' order, and
+        // the right-hand panel ended up above the main scene, which stayed black on the
+        // first start.
+        auto* dialog = new AgreementView(nullptr);
         connect(dialog, &QDialog::finished, this, &MainWindow::onAgreeDlgFinished);
         dialog->exec();
         delete dialog;

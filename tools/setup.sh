@@ -13,7 +13,7 @@ TAVORIC_PACKAGES=(
     libvlc-dev vlc-plugin-base vlc-plugin-video-output
     rapidjson-dev libavformat-dev libavcodec-dev libavutil-dev ffmpeg
     libssl-dev dosfstools mtools
-    xvfb xauth x11-apps imagemagick
+    xvfb xauth x11-apps imagemagick xdotool
     libbenchmark-dev g++-mingw-w64-x86-64
     fonts-noto-core fonts-noto-cjk
 )
