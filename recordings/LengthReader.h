@@ -8,8 +8,8 @@
 #include <atomic>
 #include <memory>
 
-// Reads the lengths of a batch of recordings on a pool thread. It owns a copy of the
-// paths, touches no widget and no shared record: results travel by queued signal, in
+// Reads the lengths (and video track counts) of a batch of recordings on a pool thread. It owns a
+// copy of the paths, touches no widget and no shared record: results travel by queued signal, in
 // chunks, each tagged with the batch it belongs to so that the list can drop the results
 // of a batch that a newer load has replaced.
 class LengthReader : public QObject, public QRunnable {
@@ -25,8 +25,10 @@ public:
     void run() override;
 
 signals:
-    // texts[i] is the length of the recording at index first + i of the batch.
-    void lengthsRead(int batch, int first, const QStringList& texts);
+    // texts[i] and videoCounts[i] are the length and the video tracks of the recording at
+    // index first + i of the batch.
+    void lengthsRead(int batch, int first, const QStringList& texts,
+                     const QVector<int>& videoCounts);
     void finished(int batch);
 
 private:

@@ -45,11 +45,12 @@ void LengthReading::start(const QStringList& paths) {
     }
 }
 
-void LengthReading::onRead(int batch, int first, const QStringList& texts) {
+void LengthReading::onRead(int batch, int first, const QStringList& texts,
+                           const QVector<int>& videoCounts) {
     if (batch != m_batch)
         return;
     m_done += texts.size();
-    emit lengthsRead(first, texts);
+    emit lengthsRead(first, texts, videoCounts);
 }
 
 void LengthReading::onReaderFinished(int batch) {

@@ -4,6 +4,7 @@
 #include <QObject>
 #include <QStringList>
 #include <QThreadPool>
+#include <QVector>
 
 #include <atomic>
 #include <memory>
@@ -30,12 +31,13 @@ public:
     const QString& pathAt(int index) const { return m_paths.at(index); }
 
 signals:
-    // texts[i] is the length of the batch's recording first + i.
-    void lengthsRead(int first, const QStringList& texts);
+    // texts[i] and videoCounts[i] are the length and the video tracks of the batch's
+    // recording first + i.
+    void lengthsRead(int first, const QStringList& texts, const QVector<int>& videoCounts);
     void finished(qint64 elapsedMs);
 
 private:
-    void onRead(int batch, int first, const QStringList& texts);
+    void onRead(int batch, int first, const QStringList& texts, const QVector<int>& videoCounts);
     void onReaderFinished(int batch);
 
     QThreadPool m_pool;

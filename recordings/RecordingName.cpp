@@ -95,10 +95,24 @@ QString RecordingName::typeIconPath(const QString& label) {
 }
 
 bool RecordingName::isChannelFile(const QString& name) {
-    for (const char* suffix : kMp4ChannelSuffixes)
-        if (name.endsWith(QLatin1String(suffix)))
-            return true;
-    return false;
+    return channelIndex(name) >= 0;
+}
+
+int RecordingName::channelIndex(const QString& name) {
+    for (int channel = 0; channel < 3; ++channel)
+        if (name.endsWith(QLatin1String(kMp4ChannelSuffixes[channel])))
+            return channel;
+    return -1;
+}
+
+QString RecordingName::recordingName(const QString& fileName) {
+    // "_C.mp4": the channel digit and the extension.
+    constexpr int kTail = 6;
+    const int size = fileName.size();
+    if (size > kTail && fileName.endsWith(QLatin1String(".mp4")) &&
+        fileName.at(size - kTail) == QLatin1Char('_') && fileName.at(size - 5).isDigit())
+        return fileName.left(size - kTail);
+    return QFileInfo(fileName).completeBaseName();
 }
 
 QString RecordingName::siblingChannelPath(const QString& path, int channel) {
@@ -114,16 +128,23 @@ QString RecordingName::siblingChannelPath(const QString& path, int channel) {
     return QString();
 }
 
-QString RecordingName::durationText(const QString& path) {
+RecordingName::Length RecordingName::readLength(const QString& path) {
     alignas(8) unsigned char info[KDXData::kInfoSize];
     KDXData reader(info);
     const int opened = reader.KDX_Open(path);
     // 2: the file opened but its header gave no information, so there is no length to show.
     if (opened < 0 || opened == 2)
-        return QString();
+        return {};
     const int seconds = qMax(0, reader.KDX_GetTotalRange() / 1000);
+    Length length;
+    length.videoCount = qMax(0, reader.KDX_GetVideoTotalNum());
     reader.KDX_Close();
-    return QStringLiteral("%1:%2")
-        .arg(seconds / 60, 2, 10, QLatin1Char('0'))
-        .arg(seconds % 60, 2, 10, QLatin1Char('0'));
+    length.text = QStringLiteral("%1:%2")
+                      .arg(seconds / 60, 2, 10, QLatin1Char('0'))
+                      .arg(seconds % 60, 2, 10, QLatin1Char('0'));
+    return length;
+}
+
+QString RecordingName::durationText(const QString& path) {
+    return readLength(path).text;
 }

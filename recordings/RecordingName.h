@@ -45,6 +45,22 @@ public:
 
     // True for names ending in "_1.mp4", "_2.mp4" or "_3.mp4": one MP4 file per channel.
     static bool isChannelFile(const QString& name);
+    // The channel (0-2) of such a name; -1 for any other name.
+    static int channelIndex(const QString& name);
+
+    // The name the list shows for a file's recording, without its extension: for an MP4
+    // also without the channel suffix ("20240612_081502_INF"), since its channel files, or
+    // its tracks, are one recording; an AVI is a row of its own per camera and keeps its
+    // channel ("20240612_123100_PRK_1").
+    static QString recordingName(const QString& fileName);
+
+    // What a file's header tells before it is played.
+    struct Length {
+        QString text;       // MM:SS, empty when the file cannot be read
+        int videoCount = 0; // video tracks; 0 when the file cannot be read
+    };
+    // Length and video tracks of a recording file, from one reading of its header.
+    static Length readLength(const QString& path);
 
     // The recording's length as MM:SS (three minute digits from 100 minutes on), read from
     // the file's header; empty when the file cannot be read.

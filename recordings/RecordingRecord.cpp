@@ -13,5 +13,12 @@ RecordingRecord RecordingRecord::fromPath(const QString& path, int row) {
     record.fileSize = info.size();
     record.suffixes[0] = info.completeSuffix();
     record.type = RecordingName::typeFromName(record.fileName);
+    record.channelFiles = QStringList{path};
+    record.cameraCount = record.hasChannelFiles() ? 1 : 0;
+    record.displayName = RecordingName::recordingName(record.fileName);
     return record;
+}
+
+bool RecordingRecord::hasChannelFiles() const {
+    return RecordingName::isChannelFile(fileName);
 }

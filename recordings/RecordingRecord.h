@@ -1,15 +1,16 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <QtGlobal>
 
 #include <array>
 
-// One listed recording, as the file list keeps it.
+// One listed recording, as the file list keeps it: one row of the list.
 struct RecordingRecord {
     int row = 0;
     QString fileName; // without folder
-    QString filePath; // full path; identifies the record
+    QString filePath; // full path; identifies the record and is the file the player is given
     QString thumbPath;
     qint64 fileSize = 0;
     // The first entry is the file's suffix ("avi" or "mp4"); further entries are added when
@@ -19,8 +20,23 @@ struct RecordingRecord {
     int type = 0;
     QString durationText; // MM:SS once the length has been read
 
-    // A record for the file at path, at the given row, with its size read now.
+    // The files of the recording, front camera first: its MP4 channel files in one folder,
+    // or the one file of a recording that keeps its cameras in one file (an MP4 with a video
+    // track per camera, an AVI). filePath is the first of them. Deleting the row from the
+    // disk removes them all.
+    QStringList channelFiles;
+    // The cameras the row plays: one per channel file, or for a one-file recording its video
+    // tracks, known once its length has been read; 0 until then.
+    int cameraCount = 0;
+    // What the row shows (RecordingName::recordingName of fileName).
+    QString displayName;
+
+    // A record for the file at path alone, at the given row, with its size read now.
     static RecordingRecord fromPath(const QString& path, int row);
+
+    // Whether the row is a recording of MP4 channel files (counted by its files), rather
+    // than a recording in one file (counted by its video tracks).
+    bool hasChannelFiles() const;
 
     // The list's order: plain ascending comparison of the file names, which sorts one
     // folder's recordings by start time, then type and channel.

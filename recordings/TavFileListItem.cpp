@@ -1,10 +1,12 @@
 #include "TavFileListItem.h"
 
+#include "CameraCountDelegate.h"
+#include "FileListLoader.h"
+#include "FileListRemover.h"
 #include "ItemInfoThread.h"
 #include "LengthReading.h"
 #include "ListPrompt.h"
 #include "PlayerInterface.h"
-#include "RecordingBatch.h"
 #include "RecordingName.h"
 #include "StatusLog.h"
 #include "TypeIconDelegate.h"
@@ -13,10 +15,7 @@
 #include "VLCComponent.h"
 
 #include <QAction>
-#include <QDir>
 #include <QDragEnterEvent>
-#include <QFile>
-#include <QFileInfo>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMenu>
@@ -25,9 +24,6 @@
 #include <QScrollBar>
 #include <QTimer>
 #include <QUrl>
-
-#include <algorithm>
-#include <functional>
 
 QVector<RecordingRecord> TavFileListItem::records;
 QVector<int> TavFileListItem::visibleRows;
@@ -49,7 +45,8 @@ const char* const kViewName = "TavFileListItem";
 TavFileListItem::TavFileListItem(QWidget* parent)
     : TavTableWidget(parent), m_thumbTimer(new QTimer(this)),
       m_progress(new QProgressBar(horizontalHeader())), m_progressTimer(new QTimer(this)),
-      m_lengths(new LengthReading(this)) {
+      m_lengths(new LengthReading(this)), m_loader(new FileListLoader(*this)),
+      m_remover(new FileListRemover(*this)) {
     logInfo("[TavFileListItem]: Enter TavFileListItem class.");
     setColumnCount(ColumnCount);
     setContextMenuPolicy(Qt::CustomContextMenu);
@@ -91,6 +88,16 @@ void TavFileListItem::setupUi() {
     const UiItem icon = ui.item(QStringLiteral("typeIcon"));
     m_typeDelegate = new TypeIconDelegate(icon.size.isValid() ? icon.size : QSize(16, 16), this);
     setItemDelegateForColumn(TypeColumn, m_typeDelegate);
+    const UiItem count = ui.item(QStringLiteral("cameraCount"));
+    CameraCountDelegate::Look look;
+    look.iconPath = ui.imageFolder() + count.image[UiItem::Default];
+    if (count.size.isValid())
+        look.iconSize = count.size;
+    look.font = count.font;
+    look.color = QColor(count.textColor[UiItem::Default]);
+    look.selectedColor = QColor(count.textColor[UiItem::Select]);
+    m_nameDelegate = new CameraCountDelegate(look, this);
+    setItemDelegateForColumn(NameColumn, m_nameDelegate);
 
     const UiItem progress = ui.item(QStringLiteral("loadProgress"));
     UiApplier::apply(m_progress, QStringLiteral("loadProgress"), progress,
@@ -130,31 +137,8 @@ int TavFileListItem::typeBit(const QString& letter) {
 
 // ---- Loading ----
 
-QStringList TavFileListItem::folderFiles(const QString& folder) {
-    const QDir dir(folder);
-    QStringList files;
-    for (const QString& name : dir.entryList(QDir::Files, QDir::Unsorted))
-        files << dir.absoluteFilePath(name);
-    return files;
-}
-
 void TavFileListItem::loadPaths(const QStringList& paths) {
-    QStringList files;
-    bool folder = false;
-    for (const QString& path : paths) {
-        const QFileInfo info(path);
-        if (!info.isDir()) {
-            files << info.absoluteFilePath();
-            continue;
-        }
-        folder = true;
-        files << folderFiles(info.absoluteFilePath());
-    }
-    // A folder replaces the list as the open-folder dialog does, so it stops what plays.
-    if (folder && (PlayerInterface::playStatus == PlayerInterface::PlayRunning ||
-                   PlayerInterface::playStatus == PlayerInterface::PlayPaused))
-        emit onSendStop(3);
-    onLoadItem(files);
+    m_loader->loadPaths(paths);
 }
 
 void TavFileListItem::recvReqFileOpen() {
@@ -172,11 +156,8 @@ void TavFileListItem::onOpenFolderDlg() {
         PlayerInterface::playStatus == PlayerInterface::PlayPaused)
         emit onSendStop(3);
     const QString folder = ListPrompt::openFolder(this, tr("Open Folder"));
-    if (folder.isEmpty())
-        return;
-    const QStringList files = folderFiles(folder);
-    if (!files.isEmpty())
-        onLoadItem(files);
+    if (!folder.isEmpty())
+        m_loader->loadFolder(folder);
 }
 
 void TavFileListItem::onReceiveFileList(const QStringList& paths) {
@@ -186,80 +167,11 @@ void TavFileListItem::onReceiveFileList(const QStringList& paths) {
 }
 
 void TavFileListItem::onLoadItem(const QStringList& paths) {
-    logDebug("TavFileListItem::onLoadItem");
-    if (rowCount() == 0) {
-        records.clear();
-        visibleRows.clear();
-        m_position = -1;
-    }
-    if (paths.isEmpty()) {
-        logInfo("[TavFileListItem]: no Item.");
-        ListPrompt::inform(this, tr("There is no item."));
-        return;
-    }
-    if (paths.size() == 1) {
-        const QString& path = paths.first();
-        const bool present =
-            std::any_of(records.cbegin(), records.cend(),
-                        [&](const RecordingRecord& r) { return r.filePath == path; });
-        if (present) {
-            logInfo("[TavFileListItem]: Some files were loaded already.");
-            ListPrompt::inform(this, tr("Item is exist!"));
-            return;
-        }
-        if (!RecordingName::isSupportedName(path)) {
-            logInfo("[TavFileListItem]: Unsupported Files.");
-            ListPrompt::inform(this, tr("Item format is different with our service supproted!"));
-            return;
-        }
-        RecordingRecord record = RecordingRecord::fromPath(path, rowCount());
-        record.durationText = RecordingName::durationText(path);
-        records.append(record);
-        insertRow(record.row);
-        fillRow(record.row, record);
-        rebuildVisibleRows();
-    } else {
-        bool rejected = false;
-        const QVector<RecordingRecord> batch = RecordingBatch::fromPaths(paths, &rejected);
-        // Nothing usable leaves the list as it was rather than empty.
-        if (!batch.isEmpty()) {
-            cancelLengthReader();
-            m_thumbRequested.clear();
-            setUpdatesEnabled(false);
-            clearContents();
-            setRowCount(batch.size());
-            for (int i = 0; i < batch.size(); ++i)
-                fillRow(i, batch[i]);
-            setUpdatesEnabled(true);
-            records = batch;
-            rebuildVisibleRows();
-            startLengthReader();
-        }
-        if (rejected) {
-            ListPrompt::inform(this, tr("Item format is different with our service supproted!"));
-            scheduleThumbnails();
-            return;
-        }
-    }
-    scheduleThumbnails();
-    logInfo("[TavFileListItem]: Load File Complete.");
-    emit onSendRefreshFilter();
+    m_loader->load(paths);
 }
 
-void TavFileListItem::fillRow(int row, const RecordingRecord& record) {
-    auto* type = new QTableWidgetItem(RecordingName::typeLabel(record.type));
-    type->setTextAlignment(Qt::AlignCenter);
-    setItem(row, TypeColumn, type);
-    auto* name = new QTableWidgetItem(record.fileName);
-    name->setTextAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    if (!record.thumbPath.isEmpty())
-        name->setToolTip(QStringLiteral("<img src=\"%1\">").arg(record.thumbPath.toHtmlEscaped()));
-    setItem(row, NameColumn, name);
-    auto* length = new QTableWidgetItem(record.durationText);
-    length->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    setItem(row, LengthColumn, length);
-    // New rows obey the filter in force at once.
-    setRowHidden(row, !rowPassesMask(row));
+QString TavFileListItem::thumbnailToolTip(const QString& path) {
+    return QStringLiteral("<img src=\"%1\">").arg(path.toHtmlEscaped());
 }
 
 // ---- Type filter ----
@@ -298,18 +210,22 @@ void TavFileListItem::onSortFile(int mask) {
 
 // ---- Current recording and stepping ----
 
+bool TavFileListItem::isCurrentRecording(const RecordingRecord& record) {
+    // A row made while a lone rear file played may hand the player its front file now.
+    const QString& file = PlayerInterface::currentFile;
+    return !file.isEmpty() && (record.filePath == file || record.channelFiles.contains(file));
+}
+
 bool TavFileListItem::hasCurrent() const {
-    return !PlayerInterface::currentFile.isEmpty() && currentIndex >= 0 &&
-           currentIndex < records.size() &&
-           records.at(currentIndex).filePath == PlayerInterface::currentFile;
+    return currentIndex >= 0 && currentIndex < records.size() &&
+           isCurrentRecording(records.at(currentIndex));
 }
 
 void TavFileListItem::syncCurrent() {
     m_position = -1;
-    const QString& file = PlayerInterface::currentFile;
     int found = -1;
-    for (int i = 0; !file.isEmpty() && i < records.size(); ++i)
-        if (records.at(i).filePath == file) {
+    for (int i = 0; !PlayerInterface::currentFile.isEmpty() && i < records.size(); ++i)
+        if (isCurrentRecording(records.at(i))) {
             found = i;
             break;
         }
@@ -474,83 +390,12 @@ void TavFileListItem::onDeleteCurrentFile() {
     emit onSetBlockEvent(false);
 }
 
-QList<int> TavFileListItem::selectedRecordRows() const {
-    QList<int> rows;
-    for (const QModelIndex& index : selectionModel()->selectedRows())
-        // A range selected with Shift may span rows the filter hides; those stay.
-        if (!isRowHidden(index.row()) && index.row() < records.size())
-            rows << index.row();
-    std::sort(rows.begin(), rows.end());
-    return rows;
-}
-
 void TavFileListItem::onDeleteSelectedAtList() {
-    deleteSelected(false);
+    m_remover->deleteSelected(false);
 }
 
 void TavFileListItem::onDeleteSelectedFromDisk() {
-    deleteSelected(true);
-}
-
-void TavFileListItem::deleteSelected(bool fromDisk) {
-    const QList<int> rows = selectedRecordRows();
-    if (rows.isEmpty()) {
-        logInfo("No Select Items");
-        return;
-    }
-    const bool currentSelected = hasCurrent() && rows.contains(currentIndex);
-    const int status = PlayerInterface::playStatus;
-    if (status == PlayerInterface::PlayRunning)
-        emit onSendPause();
-    const QString question = fromDisk ? tr("Do you want to delete the selected files at disk?")
-                                      : tr("Do you want to delete the selected files at list?");
-    if (!ListPrompt::ask(this, question)) {
-        logInfo("Select No");
-        return;
-    }
-    if (!fromDisk) {
-        if (currentSelected && status != PlayerInterface::PlayIdle &&
-            status != PlayerInterface::PlayStopped)
-            emit onSendStop(3);
-    } else {
-        if (m_itemInfo != nullptr && m_itemInfo->isBusy()) {
-            logInfo("[TavFileListItem] Stop Thread");
-            emit onSendThreadStop();
-        }
-        if (currentSelected && status != PlayerInterface::PlayIdle) {
-            logInfo("[TavFileListItem] SendStop 4");
-            emit onSendStop(4);
-        }
-    }
-    removeRows(rows, fromDisk);
-    emit onSetBlockEvent(false);
-}
-
-void TavFileListItem::removeRows(QList<int> rows, bool fromDisk) {
-    const QString loading = getLoadingFileName();
-    bool keptLoading = false;
-    // From the bottom up, so that the rows still to go keep their numbers.
-    std::sort(rows.begin(), rows.end(), std::greater<int>());
-    for (int row : rows) {
-        const RecordingRecord record = records.at(row);
-        if (!fromDisk && !loading.isEmpty() && record.filePath == loading) {
-            keptLoading = true;
-            continue;
-        }
-        removeRow(row);
-        onRemoveFile(row);
-        if (fromDisk) {
-            // A failed delete still drops the row: the user asked for it to go.
-            if (!QFile::remove(record.filePath))
-                logWarning("[TavFileListItem]: Can not delete %s",
-                           record.filePath.toLocal8Bit().constData());
-            if (!record.thumbPath.isEmpty())
-                QFile::remove(record.thumbPath);
-        }
-    }
-    onRenumber();
-    if (keptLoading)
-        ListPrompt::inform(this, tr("This File is loading now.. Please try later"));
+    m_remover->deleteSelected(true);
 }
 
 void TavFileListItem::fileListShowContextMenu(const QPoint& position) {
@@ -696,7 +541,8 @@ int TavFileListItem::recordIndexOf(const QString& path, int hint) const {
     return -1;
 }
 
-void TavFileListItem::onLengthsRead(int first, const QStringList& texts) {
+void TavFileListItem::onLengthsRead(int first, const QStringList& texts,
+                                    const QVector<int>& videoCounts) {
     for (int k = 0; k < texts.size() && first + k < m_lengths->total(); ++k) {
         const int index = recordIndexOf(m_lengths->pathAt(first + k), first + k);
         if (index < 0)
@@ -704,6 +550,7 @@ void TavFileListItem::onLengthsRead(int first, const QStringList& texts) {
         records[index].durationText = texts.at(k);
         if (QTableWidgetItem* length = item(index, LengthColumn))
             length->setText(texts.at(k));
+        setVideoCount(index, videoCounts.value(k));
     }
     m_progress->setValue(m_lengths->done());
     emit onSendReadProgress(m_lengths->done(), m_lengths->total());
@@ -714,6 +561,16 @@ void TavFileListItem::onLengthsFinished(qint64 elapsedMs) {
     showProgress(false);
     scheduleThumbnails();
     emit onSendFinishReadFileTime();
+}
+
+void TavFileListItem::setVideoCount(int index, int videoCount) {
+    RecordingRecord& record = records[index];
+    // A recording of channel files counts its files, which are what the player opens.
+    if (record.hasChannelFiles() || record.cameraCount == videoCount)
+        return;
+    record.cameraCount = videoCount;
+    if (QTableWidgetItem* name = item(index, NameColumn))
+        name->setData(CameraCountDelegate::kCameraCountRole, videoCount);
 }
 
 void TavFileListItem::onFinishReadFileTime() {
@@ -788,7 +645,7 @@ void TavFileListItem::onUpdateData(const QString& path, int index) {
     }
     records[found].thumbPath = path;
     if (QTableWidgetItem* name = item(found, NameColumn))
-        name->setToolTip(QStringLiteral("<img src=\"%1\">").arg(path.toHtmlEscaped()));
+        name->setToolTip(thumbnailToolTip(path));
 }
 
 void TavFileListItem::stopItemInfoThread() {

@@ -7,6 +7,11 @@
 #include <QStringList>
 #include <QVector>
 
+#include <memory>
+
+class CameraCountDelegate;
+class FileListLoader;
+class FileListRemover;
 class ItemInfoThread;
 class LengthReading;
 class QAction;
@@ -15,19 +20,23 @@ class QProgressBar;
 class QTimer;
 class TypeIconDelegate;
 
-// The table of recordings beside the player: one row per recording with its type icon, file
-// name and length. It admits only names that pass RecordingName::isSupportedName, keeps the
+// The table of recordings beside the player: one row per recording with its type icon, its
+// name with the number of its cameras, and its length. A recording of one MP4 file per
+// camera is one row, whichever of its files were loaded; the player opens all of them from
+// the row's file. It admits only names that pass RecordingName::isSupportedName, keeps the
 // process-wide record array that the player and the export dialogs read, filters rows by
 // type, and chooses what plays: double click, next, previous, the first file. Deleting a
-// row removes it from the list or from the disk.
+// row removes it from the list or, with all its files, from the disk. FileListLoader does
+// the loading and FileListRemover the deleting.
 //
 // Choosing a row to play sets PlayerInterface::currentFile and currentIndex, selects and
 // shows the row and emits doubleClickedItem(), which the main window connects to the
 // coordinator's checkFileReady().
 //
-// Lengths are read by pool threads after a many-file load and arrive in chunks; a progress
-// bar in the list's header strip shows how far it got. Thumbnails (row tool tips) are made by
-// an ItemInfoThread for the rows on screen, as they come into view.
+// Lengths are read by pool threads after a many-file load and arrive in chunks, with the
+// video tracks that count a one-file recording's cameras; a progress bar in the list's
+// header strip shows how far it got. Thumbnails (row tool tips) are made by an
+// ItemInfoThread for the rows on screen, as they come into view.
 class QDropEvent;
 
 class TavFileListItem : public TavTableWidget {
@@ -119,31 +128,35 @@ private slots:
     void onDeleteSelectedFromDisk();
 
 private:
+    // The loading and the deleting work on the table and the arrays as the list itself does.
+    friend class FileListLoader;
+    friend class FileListRemover;
+
     void setupUi();
-    // A folder's files (not its folders), unsorted, as absolute paths.
-    static QStringList folderFiles(const QString& folder);
     void onLoadItem(const QStringList& paths);
     void onRemoveFile(int row);
     void onRenumber();
     void resetList();
     void resetPressState();
-    void fillRow(int row, const RecordingRecord& record);
+    // The tool tip of a row whose thumbnail is at path.
+    static QString thumbnailToolTip(const QString& path);
     bool rowPassesMask(int row) const;
     void rebuildVisibleRows();
     void syncCurrent();
     bool hasCurrent() const;
+    // Whether the player's current file is one of the record's files.
+    static bool isCurrentRecording(const RecordingRecord& record);
     int nextRow() const;
     int previousRow() const;
     void playItem(int index);
     // A row chosen by double click or Enter: stops what plays, then plays the row.
     void chooseRow(int row);
-    QList<int> selectedRecordRows() const;
-    void deleteSelected(bool fromDisk);
-    void removeRows(QList<int> rows, bool fromDisk);
     void stopItemInfoThread();
     void startLengthReader();
     void cancelLengthReader();
-    void onLengthsRead(int first, const QStringList& texts);
+    void onLengthsRead(int first, const QStringList& texts, const QVector<int>& videoCounts);
+    // A one-file recording's cameras are its video tracks, known with its length.
+    void setVideoCount(int index, int videoCount);
     void onLengthsFinished(qint64 elapsedMs);
     int recordIndexOf(const QString& path, int hint) const;
     void scheduleThumbnails();
@@ -162,7 +175,10 @@ private:
     QSet<QString> m_thumbRequested;
     QTimer* m_thumbTimer;
     TypeIconDelegate* m_typeDelegate = nullptr;
+    CameraCountDelegate* m_nameDelegate = nullptr;
     QProgressBar* m_progress;
     QTimer* m_progressTimer;
     LengthReading* m_lengths;
+    std::unique_ptr<FileListLoader> m_loader;
+    std::unique_ptr<FileListRemover> m_remover;
 };

@@ -1,6 +1,8 @@
-// The file list driven as a user drives it: loads, drops, the type filter, stepping,
-// deletions, double click and the background work (lengths, thumbnails).
+// The file list driven as a user drives it: loads, drops, recordings of several channel
+// files as one row, the type filter, stepping, deletions, double click and the background
+// work (lengths, camera counts, thumbnails).
 #include "AppGlobals.h"
+#include "CameraCountDelegate.h"
 #include "ItemInfoThread.h"
 #include "ListPrompt.h"
 #include "PlayerInterface.h"
@@ -24,6 +26,16 @@ namespace {
 const QString kExists = QStringLiteral("Item is exist!");
 const QString kUnsupported = QStringLiteral("Item format is different with our service supproted!");
 const QString kNoItem = QStringLiteral("There is no item.");
+const QString kDiskQuestion = QStringLiteral("Do you want to delete the selected files at disk?");
+
+// Makes a short grey video with ffmpeg; extra arguments come before the output path.
+bool makeVideo(const QString& path, const QStringList& extra = {}) {
+    QProcess ffmpeg;
+    QStringList arguments{"-nostdin", "-loglevel", "error", "-y",
+                          "-f",       "lavfi",     "-i",    "color=c=gray:s=64x36:r=10:d=2"};
+    ffmpeg.start("ffmpeg", arguments + extra + QStringList{path});
+    return ffmpeg.waitForFinished(30000) && ffmpeg.exitCode() == 0;
+}
 
 } // namespace
 
@@ -32,16 +44,28 @@ class TestFileList : public QObject {
 
     QTemporaryDir m_dir;
     QString m_recording; // a real two-second recording
+    QString m_twoTracks; // a real recording with two cameras in one file
+    QString m_avi;       // a real one-camera AVI
     QStringList m_messages;
     QStringList m_questions;
     bool m_answer = false;
 
     // An empty file under a recording name: enough for everything but lengths and pictures.
-    QString touch(const QString& name) {
-        const QString path = m_dir.filePath("names/" + name);
+    // Recordings whose channel files must not meet others' get a folder of their own.
+    QString touch(const QString& name, const QString& folder = QStringLiteral("names")) {
+        QDir().mkpath(m_dir.filePath(folder));
+        const QString path = m_dir.filePath(folder + '/' + name);
         QFile file(path);
         file.open(QIODevice::WriteOnly);
         return path;
+    }
+
+    // The channel files of one recording, stem + "_1.mp4" and so on, in a folder of its own.
+    QStringList channels(const QString& folder, const QString& stem, QList<int> numbers) {
+        QStringList paths;
+        for (int channel : numbers)
+            paths << touch(QStringLiteral("%1_%2.mp4").arg(stem).arg(channel), folder);
+        return paths;
     }
 
     QStringList shownNames(const TavFileListItem& list) const {
@@ -50,6 +74,16 @@ class TestFileList : public QObject {
             if (!list.isRowHidden(row))
                 names << list.item(row, TavFileListItem::NameColumn)->text();
         return names;
+    }
+
+    // Each row's camera count as the name column holds it for painting.
+    QList<int> shownCameras(const TavFileListItem& list) const {
+        QList<int> counts;
+        for (int row = 0; row < list.rowCount(); ++row)
+            counts << list.item(row, TavFileListItem::NameColumn)
+                          ->data(CameraCountDelegate::kCameraCountRole)
+                          .toInt();
+        return counts;
     }
 
     void drop(TavFileListItem& list, const QStringList& paths) {
@@ -68,13 +102,19 @@ class TestFileList : public QObject {
         QCoreApplication::processEvents();
     }
 
-    // Six recordings of one morning, one of each type and two Parking ones, in name order.
+    // Six recordings of one morning, one of each type and two Parking ones, in name order;
+    // the first has three cameras and the first Parking one two. Their front files.
     QStringList morning() {
         QStringList paths;
-        for (const char* name : {"20240101_080000_INF_1.mp4", "20240101_080100_EVT_1.mp4",
-                                 "20240101_080200_PRK_1.mp4", "20240101_080300_USR_1.mp4",
-                                 "20240101_080400_PRK_1.mp4", "20240101_080500_INF_1.mp4"})
-            paths << touch(QString::fromLatin1(name));
+        const QList<QPair<QString, int>> recordings{
+            {"20240101_080000_INF", 3}, {"20240101_080100_EVT", 1}, {"20240101_080200_PRK", 2},
+            {"20240101_080300_USR", 1}, {"20240101_080400_PRK", 1}, {"20240101_080500_INF", 1}};
+        for (const auto& recording : recordings) {
+            QList<int> numbers;
+            for (int channel = 1; channel <= recording.second; ++channel)
+                numbers << channel;
+            paths << channels("names", recording.first, numbers).first();
+        }
         return paths;
     }
 
@@ -101,13 +141,17 @@ private slots:
         AppGlobals::dataFolder = m_dir.filePath("data");
         QDir().mkpath(AppGlobals::dataFolder);
         QDir().mkpath(m_dir.filePath("names"));
+        const QStringList h264{"-c:v", "libx264", "-preset", "ultrafast", "-pix_fmt", "yuv420p"};
         m_recording = m_dir.filePath("20240102_090000_EVT_1.mp4");
-        QProcess ffmpeg;
-        ffmpeg.start("ffmpeg", {"-nostdin", "-loglevel", "error", "-y", "-f", "lavfi", "-i",
-                                "color=c=gray:s=64x36:r=10:d=2", "-c:v", "libx264", "-preset",
-                                "ultrafast", "-pix_fmt", "yuv420p", m_recording});
-        QVERIFY(ffmpeg.waitForFinished(30000));
-        QCOMPARE(ffmpeg.exitCode(), 0);
+        QVERIFY(makeVideo(m_recording, h264));
+        m_twoTracks = m_dir.filePath("single/20240612_081732_INF_4.mp4");
+        QDir().mkpath(m_dir.filePath("single"));
+        QVERIFY(
+            makeVideo(m_twoTracks, QStringList{"-f", "lavfi", "-i", "color=c=blue:s=64x36:r=10:d=2",
+                                               "-map", "0:v", "-map", "1:v"} +
+                                       h264));
+        m_avi = m_dir.filePath("single/20240612_123100_PRK_1.avi");
+        QVERIFY(makeVideo(m_avi, {"-c:v", "mpeg4"}));
         ListPrompt::informHook = [this](const QString& text) { m_messages << text; };
         ListPrompt::askHook = [this](const QString& text) {
             m_questions << text;
@@ -135,10 +179,13 @@ private slots:
         QCOMPARE(refresh.count(), 2);
         // One path is appended where it lands, never sorted in.
         list.loadPaths({earlier});
-        QCOMPARE(shownNames(list),
-                 (QStringList{"20240101_100000_INF_1.mp4", "20240102_090000_EVT_1.mp4",
-                              "20240101_090000_USR_2.mp4"}));
+        QCOMPARE(shownNames(list), (QStringList{"20240101_100000_INF", "20240102_090000_EVT",
+                                                "20240101_090000_USR"}));
         QCOMPARE(TavFileListItem::records.size(), 3);
+        // A rear camera's file alone is a recording too, and the file the player gets.
+        QCOMPARE(TavFileListItem::records.at(2).filePath, earlier);
+        QCOMPARE(TavFileListItem::records.at(2).fileName, QString("20240101_090000_USR_2.mp4"));
+        QCOMPARE(shownCameras(list), (QList<int>{1, 1, 1}));
         QCOMPARE(TavFileListItem::records.at(2).row, 2);
         QCOMPARE(TavFileListItem::records.at(2).type, 4);
         QCOMPARE(TavFileListItem::records.at(2).suffixes[0], QString("mp4"));
@@ -149,16 +196,15 @@ private slots:
 
     void manyPathsReplaceSortedAndMergeRepeats() {
         TavFileListItem list;
-        list.loadPaths({touch("20240101_070000_INF_1.mp4")});
-        const QString a = touch("20240101_080000_EVT_1.mp4");
-        const QString b = touch("20240101_080000_INF_2.mp4");
-        const QString c = touch("20230101_080000_PRK_1.avi");
+        list.loadPaths({touch("20240101_070000_INF_1.mp4", "many")});
+        const QString a = touch("20240101_080000_EVT_1.mp4", "many");
+        const QString b = touch("20240101_080000_INF_2.mp4", "many");
+        const QString c = touch("20230101_080000_PRK_1.avi", "many");
         list.loadPaths({a, b, b, c});
         QVERIFY(m_messages.isEmpty());
         // The earlier row is gone: a batch replaces the list.
-        QCOMPARE(shownNames(list),
-                 (QStringList{"20230101_080000_PRK_1.avi", "20240101_080000_EVT_1.mp4",
-                              "20240101_080000_INF_2.mp4"}));
+        QCOMPARE(shownNames(list), (QStringList{"20230101_080000_PRK_1", "20240101_080000_EVT",
+                                                "20240101_080000_INF"}));
         QCOMPARE(TavFileListItem::visibleRows, (QVector<int>{0, 1, 2}));
         for (int i = 0; i < 3; ++i)
             QCOMPARE(TavFileListItem::records.at(i).row, i);
@@ -168,17 +214,16 @@ private slots:
         // Dropping the same two files twice gives the same two rows, without a word.
         drop(list, {b, a});
         drop(list, {b, a});
-        QCOMPARE(shownNames(list),
-                 (QStringList{"20240101_080000_EVT_1.mp4", "20240101_080000_INF_2.mp4"}));
+        QCOMPARE(shownNames(list), (QStringList{"20240101_080000_EVT", "20240101_080000_INF"}));
         QVERIFY(m_messages.isEmpty());
     }
 
     void badInputIsReported() {
         TavFileListItem list;
-        const QString notes = touch("notes.txt");
-        const QString upper = touch("20240101_080000_INF_1.MP4");
-        const QString a = touch("20240101_080000_INF_1.mp4");
-        const QString b = touch("20240101_080100_EVT_1.mp4");
+        const QString notes = touch("notes.txt", "bad");
+        const QString upper = touch("20240101_080000_INF_1.MP4", "bad");
+        const QString a = touch("20240101_080000_INF_1.mp4", "bad");
+        const QString b = touch("20240101_080100_EVT_1.mp4", "bad");
         QSignalSpy refresh(&list, &TavFileListItem::onSendRefreshFilter);
         drop(list, {notes});
         QCOMPARE(m_messages, QStringList{kUnsupported});
@@ -186,8 +231,7 @@ private slots:
         // The valid ones are listed and the user still hears about the rest.
         drop(list, {b, notes, a, upper});
         QCOMPARE(m_messages, (QStringList{kUnsupported, kUnsupported}));
-        QCOMPARE(shownNames(list),
-                 (QStringList{"20240101_080000_INF_1.mp4", "20240101_080100_EVT_1.mp4"}));
+        QCOMPARE(shownNames(list), (QStringList{"20240101_080000_INF", "20240101_080100_EVT"}));
         QCOMPARE(refresh.count(), 0);
         // Nothing usable in a batch leaves the list as it was.
         drop(list, {notes, upper});
@@ -207,9 +251,8 @@ private slots:
         PlayerInterface::playStatus = PlayerInterface::PlayRunning;
         QSignalSpy stop(&list, &TavFileListItem::onSendStop);
         drop(list, {folder});
-        QCOMPARE(shownNames(list),
-                 (QStringList{"20240105_090000_EVT_1.mp4", "20240105_100000_INF_1.mp4",
-                              "20240105_110000_PRK_2.avi"}));
+        QCOMPARE(shownNames(list), (QStringList{"20240105_090000_EVT", "20240105_100000_INF",
+                                                "20240105_110000_PRK_2"}));
         QCOMPARE(stop.count(), 1);
         QCOMPARE(stop.at(0).at(0).toInt(), 3);
         QVERIFY(m_messages.isEmpty());
@@ -219,6 +262,150 @@ private slots:
         list.onOpenFolderDlg();
         ListPrompt::openFolderHook = nullptr;
         QCOMPARE(list.rowCount(), 3);
+    }
+
+    void channelFilesOfARecordingAreOneRow() {
+        // A card's morning: three, two and one cameras, a rear camera alone, a recording
+        // with its cameras in one file, and two AVI cameras, which the player opens alone.
+        const QString folder = m_dir.filePath("morning");
+        channels("morning", "20240612_081502_INF", {1, 2, 3});
+        channels("morning", "20240612_081642_INF", {1, 2});
+        channels("morning", "20240612_081712_USR", {1});
+        channels("morning", "20240612_081800_EVT", {2});
+        QVERIFY(QFile::copy(m_twoTracks, folder + "/20240612_081732_INF_4.mp4"));
+        QVERIFY(QFile::copy(m_avi, folder + "/20240612_123100_PRK_1.avi"));
+        QVERIFY(QFile::copy(m_avi, folder + "/20240612_123100_PRK_2.avi"));
+        TavFileListItem list;
+        connect(&list, &TavFileListItem::onSendFinishReadFileTime, &list,
+                &TavFileListItem::onFinishReadFileTime);
+        QSignalSpy finished(&list, &TavFileListItem::onSendFinishReadFileTime);
+        drop(list, {folder});
+        QCOMPARE(shownNames(list),
+                 (QStringList{"20240612_081502_INF", "20240612_081642_INF", "20240612_081712_USR",
+                              "20240612_081732_INF", "20240612_081800_EVT", "20240612_123100_PRK_1",
+                              "20240612_123100_PRK_2"}));
+        QVERIFY(m_messages.isEmpty());
+        // A one-file recording's cameras are its video tracks, read with its length.
+        QVERIFY(finished.wait(20000));
+        QCOMPARE(shownCameras(list), (QList<int>{3, 2, 1, 2, 1, 1, 1}));
+        const auto& records = TavFileListItem::records;
+        for (int row = 0; row < records.size(); ++row)
+            QCOMPARE(records.at(row).cameraCount, shownCameras(list).at(row));
+
+        // The player gets the front camera's file, or the lowest camera there is, and finds
+        // the others beside it; the row's length is that file's.
+        QCOMPARE(records.at(0).filePath, folder + "/20240612_081502_INF_1.mp4");
+        QCOMPARE(records.at(0).channelFiles, (QStringList{folder + "/20240612_081502_INF_1.mp4",
+                                                          folder + "/20240612_081502_INF_2.mp4",
+                                                          folder + "/20240612_081502_INF_3.mp4"}));
+        QCOMPARE(records.at(4).filePath, folder + "/20240612_081800_EVT_2.mp4");
+        QCOMPARE(records.at(3).channelFiles, QStringList{folder + "/20240612_081732_INF_4.mp4"});
+        QCOMPARE(records.at(3).durationText, QString("00:02"));
+        QCOMPARE(records.at(6).filePath, folder + "/20240612_123100_PRK_2.avi");
+
+        // The count is painted at the name's right end, and only once it is known.
+        list.resize(300, 300);
+        list.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&list));
+        auto* delegate = qobject_cast<CameraCountDelegate*>(
+            list.itemDelegateForColumn(TavFileListItem::NameColumn));
+        QVERIFY(delegate != nullptr);
+        const QRect badge =
+            delegate->badgeRect(list.visualItemRect(list.item(0, TavFileListItem::NameColumn)), 3);
+        auto badgePixels = [&] {
+            const QImage image = list.viewport()->grab().toImage();
+            const QRgb background = image.pixel(badge.left() - 2, badge.top() + 1);
+            int pixels = 0;
+            for (int y = badge.top(); y <= badge.bottom(); ++y)
+                for (int x = badge.left(); x <= badge.right(); ++x)
+                    pixels += image.pixel(x, y) != background;
+            return pixels;
+        };
+        QVERIFY(badgePixels() > 20);
+        list.item(0, TavFileListItem::NameColumn)
+            ->setData(CameraCountDelegate::kCameraCountRole, 0);
+        QCOMPARE(badgePixels(), 0);
+    }
+
+    void oneRecordingLoadedAgainOrAddedByItsFiles() {
+        const QString other = touch("20240612_080000_EVT_1.mp4", "siblings");
+        const QStringList drive = channels("siblings", "20240612_090000_INF", {1, 2, 3});
+        const QStringList parked = channels("siblings", "20240612_100000_PRK", {1, 3});
+        TavFileListItem list;
+        QSignalSpy refresh(&list, &TavFileListItem::onSendRefreshFilter);
+        list.loadPaths({other});
+        // One rear camera's file brings its whole recording, which plays from its front file.
+        list.loadPaths({drive.at(1)});
+        QCOMPARE(list.rowCount(), 2);
+        QCOMPARE(TavFileListItem::records.at(1).filePath, drive.at(0));
+        QCOMPARE(TavFileListItem::records.at(1).channelFiles, drive);
+        // Any other file of it, or all of them together, is that recording again.
+        list.loadPaths({drive.at(2)});
+        drop(list, {drive.at(2), drive.at(0), drive.at(1)});
+        QCOMPARE(m_messages, (QStringList{kExists, kExists}));
+        QCOMPARE(refresh.count(), 2);
+        // The files of one more recording dropped together are added, as one file is.
+        drop(list, {parked.at(1), parked.at(0)});
+        QCOMPARE(m_messages.size(), 2);
+        QCOMPARE(refresh.count(), 3);
+        QCOMPARE(shownNames(list), (QStringList{"20240612_080000_EVT", "20240612_090000_INF",
+                                                "20240612_100000_PRK"}));
+        QCOMPARE(shownCameras(list), (QList<int>{1, 3, 2}));
+
+        // Files of two recordings replace the list; each finds its other files on disk.
+        list.loadPaths({drive.at(2), parked.at(1)});
+        QCOMPARE(shownNames(list), (QStringList{"20240612_090000_INF", "20240612_100000_PRK"}));
+        QCOMPARE(TavFileListItem::records.at(0).channelFiles, drive);
+        QCOMPARE(TavFileListItem::records.at(1).channelFiles, parked);
+        QCOMPARE(m_messages.size(), 2);
+    }
+
+    void deleteFromDiskTakesEveryFileAndNamesWhatIsLeft() {
+        const QStringList drive = channels("deleting", "20240612_090000_INF", {1, 2, 3});
+        const QStringList parked = channels("deleting", "20240612_100000_PRK", {1, 2});
+        const QStringList kept = channels("deleting", "20240612_110000_EVT", {1, 2});
+        TavFileListItem list;
+        list.loadPaths({m_dir.filePath("deleting")});
+        list.show();
+        QCOMPARE(list.rowCount(), 3);
+        // A file that cannot go: the parked rear camera's file has become a folder with
+        // something in it since it was listed.
+        QVERIFY(QFile::remove(parked.at(1)));
+        QVERIFY(QDir().mkpath(parked.at(1) + "/inside"));
+        select(list, {0, 1});
+        m_answer = true;
+        triggerMenu(list, "deleteFromDisk");
+        QCOMPARE(m_questions, QStringList{kDiskQuestion});
+        for (const QString& path : drive)
+            QVERIFY(!QFile::exists(path));
+        QVERIFY(!QFile::exists(parked.at(0)));
+        QVERIFY(QFileInfo(parked.at(1)).isDir());
+        // Its row goes all the same, and the user hears what is left.
+        QCOMPARE(shownNames(list), QStringList{"20240612_110000_EVT"});
+        QCOMPARE(m_messages, QStringList{"These files could not be deleted:\n" +
+                                         QDir::toNativeSeparators(parked.at(1))});
+        for (const QString& path : kept)
+            QVERIFY(QFile::exists(path));
+    }
+
+    void doubleClickAndEnterHandOverTheRowsFile() {
+        const QStringList rear = channels("handover", "20240612_090000_INF", {2, 3});
+        const QStringList full = channels("handover", "20240612_091000_EVT", {1, 2, 3});
+        TavFileListItem list;
+        list.loadPaths({rear.at(1), full.at(2)});
+        list.resize(300, 200);
+        list.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&list));
+        QSignalSpy chosen(&list, &TavFileListItem::doubleClickedItem);
+        QTest::mouseDClick(list.viewport(), Qt::LeftButton, {},
+                           list.visualItemRect(list.item(0, 1)).center());
+        QCOMPARE(chosen.count(), 1);
+        QCOMPARE(PlayerInterface::currentFile, rear.at(0));
+        list.setCurrentCell(1, TavFileListItem::NameColumn);
+        QTest::keyClick(&list, Qt::Key_Return);
+        QCOMPARE(chosen.count(), 2);
+        QCOMPARE(PlayerInterface::currentFile, full.at(0));
+        QCOMPARE(TavFileListItem::currentIndex, 1);
     }
 
     void typeMaskSteersNextAndPrevious() {
@@ -343,10 +530,13 @@ private slots:
         triggerMenu(list, "deleteFromDisk");
         QCOMPARE(stop.count(), 1);
         QCOMPARE(stop.at(0).at(0).toInt(), 4);
-        QVERIFY(!QFile::exists(paths.at(0)) && !QFile::exists(paths.at(2)));
+        // Every camera's file of both recordings goes, and only theirs.
+        const QDir names(m_dir.filePath("names"));
+        QVERIFY(names.entryList({"20240101_080000_INF_*", "20240101_080200_PRK_*"}).isEmpty());
         QVERIFY(QFile::exists(paths.at(1)));
         QCOMPARE(list.rowCount(), 4);
-        QCOMPARE(shownNames(list).first(), QString("20240101_080100_EVT_1.mp4"));
+        QCOMPARE(shownNames(list).first(), QString("20240101_080100_EVT"));
+        QCOMPARE(m_messages, QStringList());
     }
 
     void deletingTheCurrentRecording() {
@@ -363,7 +553,7 @@ private slots:
         QCOMPARE(stop.count(), 1);
         QCOMPARE(stop.at(0).at(0).toInt(), 3);
         QCOMPARE(list.rowCount(), 5);
-        QVERIFY(!shownNames(list).contains("20240101_080100_EVT_1.mp4"));
+        QVERIFY(!shownNames(list).contains("20240101_080100_EVT"));
         QCOMPARE(unblock.last().at(0).toBool(), false);
         QVERIFY(QFile::exists(paths.at(1)));
     }

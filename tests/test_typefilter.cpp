@@ -133,6 +133,13 @@ private slots:
             paths << m_dir.filePath(QLatin1String(name));
             QFile(paths.last()).open(QIODevice::WriteOnly);
         }
+        // Rear cameras: the filter and its counts are about recordings, not files.
+        QStringList rear;
+        for (const char* name : {"20240101_080000_INF_2.mp4", "20240101_080000_INF_3.mp4",
+                                 "20240101_080200_PRK_3.mp4"}) {
+            rear << m_dir.filePath(QLatin1String(name));
+            QFile(rear.last()).open(QIODevice::WriteOnly);
+        }
         TavTypeList popUp;
         TavFileComboBox combo;
         TavFileListItem files;
@@ -152,7 +159,8 @@ private slots:
         QVERIFY(popUp.isListShown());
         QVERIFY(combo.findChild<QPushButton*>("bOpenList")->isChecked());
 
-        files.loadPaths(paths);
+        files.loadPaths(rear + paths);
+        QCOMPARE(files.rowCount(), 5);
         QCOMPARE(files.getCanPlayFileCount(), 5); // "All Type" shows even the unknown type
         popUp.toggle(4)->onClickedButton();
         QCOMPARE(files.typeMask(), 11);

@@ -114,30 +114,6 @@
   <context>
     <name>TavFileListItem</name>
     <message>
-      <source>  Delete at list</source>
-      <translation>  Delete at list</translation>
-    </message>
-    <message>
-      <source>  Delete from disk</source>
-      <translation>  Delete from disk</translation>
-    </message>
-    <message>
-      <source>Reading lengths %v / %m</source>
-      <translation>Reading lengths %v / %m</translation>
-    </message>
-    <message>
-      <source>Open file</source>
-      <translation>Open file</translation>
-    </message>
-    <message>
-      <source>Movie file (*.avi *.mp4)</source>
-      <translation>Movie file (*.avi *.mp4)</translation>
-    </message>
-    <message>
-      <source>Open Folder</source>
-      <translation>Open Folder</translation>
-    </message>
-    <message>
       <source>There is no item.</source>
       <translation>There is no item.</translation>
     </message>
@@ -160,6 +136,40 @@
     <message>
       <source>This File is loading now.. Please try later</source>
       <translation>This File is loading now.. Please try later</translation>
+    </message>
+    <message>
+      <source>and %1 more</source>
+      <translation>and %1 more</translation>
+    </message>
+    <message>
+      <source>These files could not be deleted:
+%1</source>
+      <translation>These files could not be deleted:
+%1</translation>
+    </message>
+    <message>
+      <source>  Delete at list</source>
+      <translation>  Delete at list</translation>
+    </message>
+    <message>
+      <source>  Delete from disk</source>
+      <translation>  Delete from disk</translation>
+    </message>
+    <message>
+      <source>Reading lengths %v / %m</source>
+      <translation>Reading lengths %v / %m</translation>
+    </message>
+    <message>
+      <source>Open file</source>
+      <translation>Open file</translation>
+    </message>
+    <message>
+      <source>Movie file (*.avi *.mp4)</source>
+      <translation>Movie file (*.avi *.mp4)</translation>
+    </message>
+    <message>
+      <source>Open Folder</source>
+      <translation>Open Folder</translation>
     </message>
   </context>
   <context>

@@ -121,30 +121,6 @@
   <context>
     <name>TavFileListItem</name>
     <message>
-      <source>  Delete at list</source>
-      <translation>  מחיקה מהרשימה</translation>
-    </message>
-    <message>
-      <source>  Delete from disk</source>
-      <translation>  מחיקה מהדיסק</translation>
-    </message>
-    <message>
-      <source>Reading lengths %v / %m</source>
-      <translation>קריאת אורכים %v / %m</translation>
-    </message>
-    <message>
-      <source>Open file</source>
-      <translation>פתיחת קובץ</translation>
-    </message>
-    <message>
-      <source>Movie file (*.avi *.mp4)</source>
-      <translation>קובץ וידאו (*.avi *.mp4)</translation>
-    </message>
-    <message>
-      <source>Open Folder</source>
-      <translation>פתיחת תיקייה</translation>
-    </message>
-    <message>
       <source>There is no item.</source>
       <translation>אין פריטים.</translation>
     </message>
@@ -167,6 +143,40 @@
     <message>
       <source>This File is loading now.. Please try later</source>
       <translation>הקובץ נטען כעת. נסו שוב מאוחר יותר.</translation>
+    </message>
+    <message>
+      <source>and %1 more</source>
+      <translation>ועוד %1</translation>
+    </message>
+    <message>
+      <source>These files could not be deleted:
+%1</source>
+      <translation>לא ניתן היה למחוק את הקבצים הבאים:
+%1</translation>
+    </message>
+    <message>
+      <source>  Delete at list</source>
+      <translation>  מחיקה מהרשימה</translation>
+    </message>
+    <message>
+      <source>  Delete from disk</source>
+      <translation>  מחיקה מהדיסק</translation>
+    </message>
+    <message>
+      <source>Reading lengths %v / %m</source>
+      <translation>קריאת אורכים %v / %m</translation>
+    </message>
+    <message>
+      <source>Open file</source>
+      <translation>פתיחת קובץ</translation>
+    </message>
+    <message>
+      <source>Movie file (*.avi *.mp4)</source>
+      <translation>קובץ וידאו (*.avi *.mp4)</translation>
+    </message>
+    <message>
+      <source>Open Folder</source>
+      <translation>פתיחת תיקייה</translation>
     </message>
   </context>
   <context>

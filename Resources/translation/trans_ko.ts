@@ -114,30 +114,6 @@
   <context>
     <name>TavFileListItem</name>
     <message>
-      <source>  Delete at list</source>
-      <translation>  목록에서 삭제</translation>
-    </message>
-    <message>
-      <source>  Delete from disk</source>
-      <translation>  디스크에서 삭제</translation>
-    </message>
-    <message>
-      <source>Reading lengths %v / %m</source>
-      <translation>길이 읽는 중 %v / %m</translation>
-    </message>
-    <message>
-      <source>Open file</source>
-      <translation>파일 열기</translation>
-    </message>
-    <message>
-      <source>Movie file (*.avi *.mp4)</source>
-      <translation>동영상 파일 (*.avi *.mp4)</translation>
-    </message>
-    <message>
-      <source>Open Folder</source>
-      <translation>폴더 열기</translation>
-    </message>
-    <message>
       <source>There is no item.</source>
       <translation>항목이 없습니다.</translation>
     </message>
@@ -160,6 +136,40 @@
     <message>
       <source>This File is loading now.. Please try later</source>
       <translation>이 파일을 불러오는 중입니다. 잠시 후 다시 시도하세요.</translation>
+    </message>
+    <message>
+      <source>and %1 more</source>
+      <translation>외 %1개</translation>
+    </message>
+    <message>
+      <source>These files could not be deleted:
+%1</source>
+      <translation>다음 파일을 삭제하지 못했습니다:
+%1</translation>
+    </message>
+    <message>
+      <source>  Delete at list</source>
+      <translation>  목록에서 삭제</translation>
+    </message>
+    <message>
+      <source>  Delete from disk</source>
+      <translation>  디스크에서 삭제</translation>
+    </message>
+    <message>
+      <source>Reading lengths %v / %m</source>
+      <translation>길이 읽는 중 %v / %m</translation>
+    </message>
+    <message>
+      <source>Open file</source>
+      <translation>파일 열기</translation>
+    </message>
+    <message>
+      <source>Movie file (*.avi *.mp4)</source>
+      <translation>동영상 파일 (*.avi *.mp4)</translation>
+    </message>
+    <message>
+      <source>Open Folder</source>
+      <translation>폴더 열기</translation>
     </message>
   </context>
   <context>

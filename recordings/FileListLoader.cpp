@@ -1,0 +1,146 @@
+#include "FileListLoader.h"
+
+#include "CameraCountDelegate.h"
+#include "ListPrompt.h"
+#include "PlayerInterface.h"
+#include "RecordingBatch.h"
+#include "RecordingName.h"
+#include "StatusLog.h"
+#include "TavFileListItem.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <algorithm>
+
+FileListLoader::FileListLoader(TavFileListItem& list) : m_list(list) {}
+
+QStringList FileListLoader::folderFiles(const QString& folder, QSet<QString>* listed) {
+    const QDir dir(folder);
+    QStringList files;
+    for (const QString& name : dir.entryList(QDir::Files, QDir::Unsorted))
+        files << dir.absoluteFilePath(name);
+    if (!files.isEmpty())
+        listed->insert(RecordingBatch::folderOf(files.first()));
+    return files;
+}
+
+void FileListLoader::loadPaths(const QStringList& paths) {
+    QStringList files;
+    QSet<QString> listed;
+    bool folder = false;
+    for (const QString& path : paths) {
+        const QFileInfo info(path);
+        if (!info.isDir()) {
+            files << info.absoluteFilePath();
+            continue;
+        }
+        folder = true;
+        files << folderFiles(info.absoluteFilePath(), &listed);
+    }
+    // A folder replaces the list as the open-folder dialog does, so it stops what plays.
+    if (folder && (PlayerInterface::playStatus == PlayerInterface::PlayRunning ||
+                   PlayerInterface::playStatus == PlayerInterface::PlayPaused))
+        emit m_list.onSendStop(3);
+    load(files, listed);
+}
+
+void FileListLoader::loadFolder(const QString& folder) {
+    QSet<QString> listed;
+    const QStringList files = folderFiles(folder, &listed);
+    if (!files.isEmpty())
+        load(files, listed);
+}
+
+void FileListLoader::load(const QStringList& paths, const QSet<QString>& listedFolders) {
+    logDebug("TavFileListItem::onLoadItem");
+    if (m_list.rowCount() == 0) {
+        TavFileListItem::records.clear();
+        TavFileListItem::visibleRows.clear();
+        m_list.m_position = -1;
+    }
+    if (paths.isEmpty()) {
+        logInfo("[TavFileListItem]: no Item.");
+        ListPrompt::inform(&m_list, TavFileListItem::tr("There is no item."));
+        return;
+    }
+    bool rejected = false;
+    const QVector<RecordingRecord> batch =
+        RecordingBatch::fromPaths(paths, listedFolders, &rejected);
+    if (batch.size() == 1 && !rejected) {
+        // One recording, as one file or as its channel files together, is added to the list.
+        if (isListed(batch.first())) {
+            logInfo("[TavFileListItem]: Some files were loaded already.");
+            ListPrompt::inform(&m_list, TavFileListItem::tr("Item is exist!"));
+            return;
+        }
+        append(batch.first());
+    } else {
+        // Nothing usable leaves the list as it was rather than empty.
+        if (!batch.isEmpty())
+            replaceWith(batch);
+        if (rejected) {
+            logInfo("[TavFileListItem]: Unsupported Files.");
+            ListPrompt::inform(
+                &m_list,
+                TavFileListItem::tr("Item format is different with our service supproted!"));
+            m_list.scheduleThumbnails();
+            return;
+        }
+    }
+    m_list.scheduleThumbnails();
+    logInfo("[TavFileListItem]: Load File Complete.");
+    emit m_list.onSendRefreshFilter();
+}
+
+bool FileListLoader::isListed(const RecordingRecord& record) {
+    const QString key = RecordingBatch::recordingKey(record.filePath);
+    return std::any_of(TavFileListItem::records.cbegin(), TavFileListItem::records.cend(),
+                       [&](const RecordingRecord& listed) {
+                           return RecordingBatch::recordingKey(listed.filePath) == key;
+                       });
+}
+
+void FileListLoader::append(RecordingRecord record) {
+    record.row = m_list.rowCount();
+    // One row's length is read at once; one reading gives a one-file recording's cameras too.
+    const RecordingName::Length length = RecordingName::readLength(record.filePath);
+    record.durationText = length.text;
+    if (!record.hasChannelFiles())
+        record.cameraCount = length.videoCount;
+    TavFileListItem::records.append(record);
+    m_list.insertRow(record.row);
+    fillRow(record.row, record);
+    m_list.rebuildVisibleRows();
+}
+
+void FileListLoader::replaceWith(const QVector<RecordingRecord>& batch) {
+    m_list.cancelLengthReader();
+    m_list.m_thumbRequested.clear();
+    m_list.setUpdatesEnabled(false);
+    m_list.clearContents();
+    m_list.setRowCount(batch.size());
+    for (int i = 0; i < batch.size(); ++i)
+        fillRow(i, batch[i]);
+    m_list.setUpdatesEnabled(true);
+    TavFileListItem::records = batch;
+    m_list.rebuildVisibleRows();
+    m_list.startLengthReader();
+}
+
+void FileListLoader::fillRow(int row, const RecordingRecord& record) {
+    auto* type = new QTableWidgetItem(RecordingName::typeLabel(record.type));
+    type->setTextAlignment(Qt::AlignCenter);
+    m_list.setItem(row, TavFileListItem::TypeColumn, type);
+    auto* name = new QTableWidgetItem(record.displayName);
+    name->setTextAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    name->setData(CameraCountDelegate::kCameraCountRole, record.cameraCount);
+    if (!record.thumbPath.isEmpty())
+        name->setToolTip(TavFileListItem::thumbnailToolTip(record.thumbPath));
+    m_list.setItem(row, TavFileListItem::NameColumn, name);
+    auto* length = new QTableWidgetItem(record.durationText);
+    length->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    m_list.setItem(row, TavFileListItem::LengthColumn, length);
+    // New rows obey the filter in force at once.
+    m_list.setRowHidden(row, !m_list.rowPassesMask(row));
+}
