@@ -1,7 +1,9 @@
-// The file list with a folder of 10,000 recordings: how long the rows take to appear
-// (sorted, on screen) against a plain listing of the same folder, and how long all their
-// lengths take to fill in against reading them one after another without the list.
+// The file list with a folder of 10,000 channel files (3,334 recordings): how long the rows
+// take to appear (one per recording, sorted, on screen) against a plain listing of the same
+// folder; and with a folder of 10,000 one-camera recordings, how long all their lengths take
+// to fill in against reading them one after another without the list.
 #include "BenchMedia.h"
+#include "CameraCountDelegate.h"
 #include "RecordingName.h"
 #include "TavFileListItem.h"
 
@@ -10,6 +12,7 @@
 #include <QElapsedTimer>
 #include <QEventLoop>
 #include <QFile>
+#include <QSet>
 #include <QTimer>
 
 #include <algorithm>
@@ -19,12 +22,16 @@
 
 namespace {
 
-constexpr int kRecordings = 10000;
+// Files in each folder.
+constexpr int kFiles = 10000;
+// The listing folder's recordings: all but the last with three cameras, the last with one.
+constexpr int kRecordings = (kFiles + 2) / 3;
 constexpr int kListingRuns = 5;
 
-// Recording names of one card: one a minute, a day's worth per month field.
-QString recordingName(int k) {
-    return QStringLiteral("2024%1%2_%3%4%5_%6_1.mp4")
+// Recording names of one card without the channel: one a minute, a day's worth per month
+// field, every seventh an Event.
+QString recordingStem(int k) {
+    return QStringLiteral("2024%1%2_%3%4%5_%6")
         .arg(1 + k / 1440 % 12, 2, 10, QChar('0'))
         .arg(1 + k / 17280, 2, 10, QChar('0'))
         .arg(k / 60 % 24, 2, 10, QChar('0'))
@@ -33,16 +40,39 @@ QString recordingName(int k) {
         .arg(QLatin1String(k % 7 == 0 ? "EVT" : "INF"));
 }
 
-// A folder of kRecordings entries, each a hard link to source (an empty file when source is
-// empty); made once and kept.
-bool makeFolder(const QString& folder, const QString& source) {
+int camerasOf(int recording) {
+    return recording < kRecordings - 1 ? 3 : kFiles - 3 * (kRecordings - 1);
+}
+
+// The listing folder: every camera's file of kRecordings recordings.
+QStringList channelFileNames() {
+    QStringList names;
+    for (int k = 0; k < kRecordings; ++k)
+        for (int channel = 1; channel <= camerasOf(k); ++channel)
+            names << QStringLiteral("%1_%2.mp4").arg(recordingStem(k)).arg(channel);
+    return names;
+}
+
+// The lengths folder: kFiles recordings of the front camera alone.
+QStringList frontFileNames() {
+    QStringList names;
+    for (int k = 0; k < kFiles; ++k)
+        names << recordingStem(k) + QStringLiteral("_1.mp4");
+    return names;
+}
+
+// A folder of the named files, each a hard link to source (an empty file when source is
+// empty); made once and kept while it holds exactly these names.
+bool makeFolder(const QString& folder, const QStringList& names, const QString& source) {
     QDir dir(folder);
-    if (dir.exists() && int(dir.entryList(QDir::Files).size()) == kRecordings)
+    const QStringList present = dir.entryList(QDir::Files);
+    if (dir.exists() &&
+        QSet<QString>(present.begin(), present.end()) == QSet<QString>(names.begin(), names.end()))
         return true;
     dir.removeRecursively();
     QDir().mkpath(folder);
-    for (int k = 0; k < kRecordings; ++k) {
-        const QString path = dir.filePath(recordingName(k));
+    for (const QString& name : names) {
+        const QString path = dir.filePath(name);
         if (source.isEmpty()) {
             QFile file(path);
             if (!file.open(QIODevice::WriteOnly))
@@ -80,8 +110,8 @@ int main(int argc, char** argv) {
     const QStringList sources = BenchMedia::lengthRecordings();
     const QString names = BenchMedia::folder() + "/filelist/names";
     const QString lengths = BenchMedia::folder() + "/filelist/lengths";
-    if (sources.isEmpty() || !makeFolder(names, QString()) ||
-        !makeFolder(lengths, sources.first())) {
+    if (sources.isEmpty() || !makeFolder(names, channelFileNames(), QString()) ||
+        !makeFolder(lengths, frontFileNames(), sources.first())) {
         std::fprintf(stderr, "bench_filelist: cannot make the recordings\n");
         return 1;
     }
@@ -91,7 +121,8 @@ int main(int argc, char** argv) {
     list.show();
     QCoreApplication::processEvents();
 
-    // Listing: rows made, sorted and painted once, against listing the folder's names.
+    // Listing: one row per recording made, sorted and painted once, against listing the
+    // folder's names.
     std::vector<double> listed, plain;
     for (int run = 0; run < kListingRuns; ++run) {
         QElapsedTimer timer;
@@ -108,8 +139,12 @@ int main(int argc, char** argv) {
         list.loadPaths({names});
         list.repaint();
         listed.push_back(msSince(timer));
-        if (list.rowCount() != kRecordings || list.item(0, 1)->text() != recordingName(0) ||
-            list.item(kRecordings - 1, 1)->text() != recordingName(kRecordings - 1)) {
+        const int last = kRecordings - 1;
+        if (list.rowCount() != kRecordings || list.item(0, 1)->text() != recordingStem(0) ||
+            list.item(last, 1)->text() != recordingStem(last) ||
+            list.item(0, 1)->data(CameraCountDelegate::kCameraCountRole).toInt() != 3 ||
+            list.item(last, 1)->data(CameraCountDelegate::kCameraCountRole).toInt() !=
+                camerasOf(last)) {
             std::fprintf(stderr, "bench_filelist: the list is not complete and sorted\n");
             return 1;
         }
@@ -154,12 +189,14 @@ int main(int argc, char** argv) {
             return 1;
         }
 
-    std::printf("\nFile list with %d recordings in one folder\n", kRecordings);
+    std::printf("\nFile list with %d channel files of %d recordings in one folder\n", kFiles,
+                kRecordings);
     std::printf("  rows listed, sorted and painted   %8.1f ms (median of %d)   (goal: at most "
                 "1000)\n",
                 median(listed), kListingRuns);
     std::printf("  baseline: QDir listing            %8.1f ms (median of %d)\n", median(plain),
                 kListingRuns);
+    std::printf("File list with %d one-camera recordings in one folder\n", kFiles);
     std::printf("  lengths filled in                 %8.1f ms   (goal: at most 5000)\n", filled);
     std::printf("    of which rows shown             %8.1f ms\n", rowsShown);
     std::printf("    longest event-loop pause        %8.1f ms while reading\n", longestPause);
