@@ -4,6 +4,7 @@
 #include <QFontMetrics>
 #include <QIcon>
 #include <QPainter>
+#include <QStyle>
 
 namespace {
 
@@ -18,12 +19,14 @@ constexpr int kNameMargins = 12;
 CameraCountDelegate::CameraCountDelegate(const Look& look, QObject* parent)
     : QStyledItemDelegate(parent), m_look(look) {}
 
-QRect CameraCountDelegate::badgeRect(const QRect& cell, int count) const {
+QRect CameraCountDelegate::badgeRect(const QRect& cell, int count,
+                                     Qt::LayoutDirection direction) const {
     if (count <= 0)
         return QRect();
     const int textWidth = QFontMetrics(m_look.font).horizontalAdvance(QString::number(count));
     const int width = m_look.iconSize.width() + kGap + textWidth;
-    return QRect(cell.right() - kRightMargin - width + 1, cell.top(), width, cell.height());
+    const QRect atRight(cell.right() - kRightMargin - width + 1, cell.top(), width, cell.height());
+    return QStyle::visualRect(direction, cell, atRight);
 }
 
 QPixmap CameraCountDelegate::icon(const QColor& color, qreal pixelRatio) const {
@@ -47,11 +50,12 @@ void CameraCountDelegate::paint(QPainter* painter, const QStyleOptionViewItem& o
     QStyleOptionViewItem cell = option;
     initStyleOption(&cell, index);
     const int count = index.data(kCameraCountRole).toInt();
-    const QRect badge = badgeRect(option.rect, count);
+    const QRect badge = badgeRect(option.rect, count, option.direction);
     // The name is cut short before the count rather than painted under it.
     if (!badge.isEmpty())
         cell.text = cell.fontMetrics.elidedText(cell.text, Qt::ElideRight,
-                                                badge.left() - option.rect.left() - kNameMargins);
+                                                option.rect.width() - badge.width() - kRightMargin -
+                                                    kNameMargins);
     const QWidget* widget = option.widget;
     QStyle* style = widget != nullptr ? widget->style() : QApplication::style();
     style->drawControl(QStyle::CE_ItemViewItem, &cell, painter, widget);

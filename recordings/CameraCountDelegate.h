@@ -30,8 +30,10 @@ public:
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
                const QModelIndex& index) const override;
 
-    // Where the count of a cell of this rectangle goes; empty for 0.
-    QRect badgeRect(const QRect& cell, int count) const;
+    // Where the count of a cell of this rectangle goes: at the end the name does not start
+    // from, so at the left in a right-to-left layout; empty for 0.
+    QRect badgeRect(const QRect& cell, int count,
+                    Qt::LayoutDirection direction = Qt::LeftToRight) const;
 
 private:
     QPixmap icon(const QColor& color, qreal pixelRatio) const;

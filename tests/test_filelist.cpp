@@ -310,9 +310,9 @@ private slots:
         auto* delegate = qobject_cast<CameraCountDelegate*>(
             list.itemDelegateForColumn(TavFileListItem::NameColumn));
         QVERIFY(delegate != nullptr);
-        const QRect badge =
-            delegate->badgeRect(list.visualItemRect(list.item(0, TavFileListItem::NameColumn)), 3);
         auto badgePixels = [&] {
+            const QRect cell = list.visualItemRect(list.item(0, TavFileListItem::NameColumn));
+            const QRect badge = delegate->badgeRect(cell, 3, list.layoutDirection());
             const QImage image = list.viewport()->grab().toImage();
             const QRgb background = image.pixel(badge.left() - 2, badge.top() + 1);
             int pixels = 0;
@@ -322,6 +322,10 @@ private slots:
             return pixels;
         };
         QVERIFY(badgePixels() > 20);
+        // Right to left (Hebrew) the name starts at the right, and the count moves to the left.
+        list.setLayoutDirection(Qt::RightToLeft);
+        QVERIFY(badgePixels() > 20);
+        QVERIFY(delegate->badgeRect(QRect(0, 0, 200, 24), 3, Qt::RightToLeft).right() < 100);
         list.item(0, TavFileListItem::NameColumn)
             ->setData(CameraCountDelegate::kCameraCountRole, 0);
         QCOMPARE(badgePixels(), 0);
