@@ -6,8 +6,7 @@
 DriftEstimator::Decision DriftEstimator::add(double frontMs, double rearMs) {
     Decision decision;
     const double drift = rearMs - frontMs;
-    // Twice the demuxer step cannot be a reading artefact.
-    if (std::fabs(drift) >= 2 * kSeekDriftMs) {
+    if (std::fabs(drift) >= kSeekAtOnceMs) {
         decision.action = Action::Seek;
         decision.driftMs = drift;
         reset();
@@ -26,10 +25,6 @@ DriftEstimator::Decision DriftEstimator::add(double frontMs, double rearMs) {
     if (std::fabs(decision.driftMs) >= kSeekDriftMs) {
         decision.action = Action::Seek;
         reset();
-    } else if (std::fabs(decision.driftMs) > kInStepMs) {
-        decision.action = Action::Nudge;
-        decision.rateScale =
-            1.0 + std::clamp(-decision.driftMs / kCatchUpMs, -kMaxNudge, kMaxNudge);
     }
     return decision;
 }

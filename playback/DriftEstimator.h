@@ -1,38 +1,32 @@
 #pragma once
 
-#include "VlcCompat.h"
-
 #include <array>
 
-// Estimates how far a rear channel runs from the front channel from repeated readings of
-// both players' times.
+// Tells from repeated readings of two players' times whether a rear channel has left the
+// front channel's step by more than the readings can be wrong.
 //
-// libvlc 3.0 reports a player's time in steps of its demuxer (about 250 ms), so one
-// reading of two players can differ by a quarter of a second while their pictures are in
-// step. Readings taken at different moments fall at different points of those steps; their
-// mean converges on the true offset, so corrections act on the mean of a window of
-// readings, never on one.
+// libvlc 3.0 reports a player's time in steps of its demuxer (about 250 ms), refreshed at
+// moments of its own, so one reading of two players in step can differ by a quarter of a
+// second, and the mean of a few readings taken at a fixed interval by up to about 200 ms
+// (measured). Only the mean of a long window, whose readings fall at every point of the
+// steps, says anything; and only a drift well beyond that error is acted on. Finer
+// corrections (a nudge of the rate) were tried and only moved pictures that were in step.
 class DriftEstimator {
 public:
-    static constexpr int kWindow = 8;
+    // About four seconds of readings at the engine's check interval.
+    static constexpr int kWindow = 24;
 
-    enum class Action { None, Nudge, Seek };
+    enum class Action { None, Seek };
 
     struct Decision {
         Action action = Action::None;
-        double driftMs = 0;   // mean rear - front over the window
-        double rateScale = 1; // for Nudge: multiply the front's rate by this
+        double driftMs = 0; // mean rear - front over the window (or the one reading)
     };
 
-    // A drift this large is visible at once: seek without waiting for a full window.
+    // A mean drift this large is real: the channels are moved together again.
     static constexpr double kSeekDriftMs = 400.0;
-    // Mean drifts within this count as in step. Readings finer than the players report
-    // their time cannot be acted on: nudging on them only moves pictures that were in step.
-    static constexpr double kInStepMs =
-        VlcCompat::kTimeResolutionMs > 40 ? VlcCompat::kTimeResolutionMs / 2.0 : 20.0;
-    // Largest rate change used to close a drift, and the time over which it is closed.
-    static constexpr double kMaxNudge = 0.05;
-    static constexpr double kCatchUpMs = 4000.0;
+    // One reading this far off cannot be an artefact of the steps: act at once.
+    static constexpr double kSeekAtOnceMs = 2 * kSeekDriftMs;
 
     // Adds one reading (ms) and says what to do about the channel.
     Decision add(double frontMs, double rearMs);

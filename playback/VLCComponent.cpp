@@ -1,18 +1,15 @@
 #include "VLCComponent.h"
 
-#include "DriftEstimator.h"
+#include "ChannelGate.h"
 #include "FreedMemory.h"
+#include "PausedJoin.h"
 #include "StatusLog.h"
 #include "VlcCompat.h"
 
-#include <QDir>
-#include <QFileInfo>
-#include <QScreen>
 #include <QTimer>
 #include <QWidget>
 
 #include <algorithm>
-#include <cmath>
 #include <cstdlib>
 #include <cstring>
 
@@ -22,89 +19,24 @@ int VLCComponent::esDeletePending = 0;
 int VLCComponent::stopReason = 0;
 QWidget* VLCComponent::videoWidgets[VLCComponent::kMaxChannels] = {nullptr, nullptr, nullptr};
 
-namespace {
-
-// libvlc's own messages are not wanted in the status log.
-void discardLog(void*, int, const libvlc_log_t*, const char*, va_list) {}
-
-// The one set of arguments every channel plays with; a mirroring instance adds the filter.
-libvlc_instance_t* newInstance(bool mirrored) {
-    const char* const args[] = {
-        "--no-keyboard-events", "--no-mouse-events", "--mouse-hide-timeout=-1",
-        "--no-sub-autodetect-file", "--no-interact", "--no-stats", "--no-snapshot-preview",
-        "--no-snapshot-sequential", "--avcodec-threads=0", "--file-caching=1000", "--verbose=1",
-        "--clock-jitter=5000", "--clock-synchro=0",
-        // the mirroring instance only:
-        "--video-filter=transform", "--transform-type=hflip"};
-    constexpr int kAll = int(sizeof args / sizeof args[0]);
-    constexpr int kMirrorOnly = 2;
-    libvlc_instance_t* instance = libvlc_new(mirrored ? kAll : kAll - kMirrorOnly, args);
-    if (instance != nullptr)
-        libvlc_log_set(instance, discardLog, nullptr);
-    return instance;
-}
-
-// How long a player that joins a running recording may take to show its picture.
-constexpr int kSettleIntervalMs = 40;
-constexpr int kSettleTicks = 150;
-// How long a player joining a recording may take, once its output is up, before it counts
-// as shown whether or not its picture was seen in the scene.
-constexpr int kShowTicks = 25;
-
-// A small copy of what a scene shows on screen (null where the screen cannot be read).
-QImage sceneImage(QWidget* scene) {
-    if (scene == nullptr || scene->screen() == nullptr || !scene->isVisible())
-        return QImage();
-    return scene->screen()
-        ->grabWindow(scene->winId())
-        .toImage()
-        .scaled(32, 18, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
-        .convertToFormat(QImage::Format_RGB32);
-}
-
-bool imagesDiffer(const QImage& a, const QImage& b) {
-    if (a.isNull() || b.isNull() || a.size() != b.size())
-        return true;
-    long long difference = 0;
-    for (int y = 0; y < a.height(); ++y) {
-        for (int x = 0; x < a.width(); ++x) {
-            const QRgb p = a.pixel(x, y);
-            const QRgb q = b.pixel(x, y);
-            difference += std::abs(qRed(p) - qRed(q)) + std::abs(qGreen(p) - qGreen(q)) +
-                          std::abs(qBlue(p) - qBlue(q));
-        }
-    }
-    // More than a little noise: an average of 2 levels per colour.
-    return difference > 6LL * a.width() * a.height();
-}
-
-} // namespace
-
 VLCComponent::VLCComponent(QObject* parent)
-    : QObject(parent), m_syncTimer(new QTimer(this)), m_settleTimer(new QTimer(this)) {
-    m_instance = newInstance(false);
-    if (m_instance != nullptr) {
-        for (auto& player : m_players)
-            player = libvlc_media_player_new(m_instance);
-    }
-    if (m_players[0] != nullptr)
-        attachFrontHandlers(m_players[0]);
+    : QObject(parent), m_gate(new ChannelGate(m_channels.players(), this)),
+      m_join(new PausedJoin(m_channels, this)), m_syncTimer(new QTimer(this)) {
+    if (player(0) != nullptr)
+        attachFrontHandlers(player(0));
+    for (int i = 0; i < kMaxChannels; ++i)
+        m_gate->watch(i, player(i));
     connect(this, &VLCComponent::send_ShowWidget, this, &VLCComponent::recv_ShowWidget);
-    connect(this, &VLCComponent::playingReached, this, &VLCComponent::pullRearChannelsToFront,
+    connect(this, &VLCComponent::playingReached, this, &VLCComponent::logPlaying,
             Qt::QueuedConnection);
     connect(this, &VLCComponent::firstPictureShown, this, &VLCComponent::applyFirstPicture,
             Qt::QueuedConnection);
     connect(this, &VLCComponent::stoppedReached, this, &VLCComponent::finishStop,
             Qt::QueuedConnection);
-    for (auto& parking : m_parking) {
-        parking = new QWidget;
-        parking->setAttribute(Qt::WA_NativeWindow);
-        parking->resize(2, 2);
-    }
+    connect(m_gate, &ChannelGate::released, this, &VLCComponent::afterFlip);
+    connect(m_join, &PausedJoin::allResting, this, &VLCComponent::afterFlip);
     m_syncTimer->setInterval(kSyncIntervalMs);
     connect(m_syncTimer, &QTimer::timeout, this, &VLCComponent::syncRearChannels);
-    m_settleTimer->setInterval(kSettleIntervalMs);
-    connect(m_settleTimer, &QTimer::timeout, this, &VLCComponent::settleReplacedPlayers);
     playerState = Created;
 }
 
@@ -129,25 +61,29 @@ void VLCComponent::detachFrontHandlers(libvlc_media_player_t* player) {
 }
 
 VLCComponent::~VLCComponent() {
-    if (m_players[0] != nullptr)
-        detachFrontHandlers(m_players[0]);
-    // A stop still running on the stop worker must not outlive its player.
-    VlcCompat::waitForStops();
-    for (auto& player : m_players) {
-        if (player != nullptr) {
-            VlcCompat::forget(player);
-            libvlc_media_player_release(player);
-        }
-        player = nullptr;
-    }
-    if (m_instance != nullptr)
-        libvlc_release(m_instance);
-    if (m_mirrorInstance != nullptr)
-        libvlc_release(m_mirrorInstance);
-    for (QWidget* parking : m_parking)
-        delete parking;
+    m_join->cancel();
+    if (player(0) != nullptr)
+        detachFrontHandlers(player(0));
+    for (int i = 0; i < kMaxChannels; ++i)
+        m_gate->unwatch(i, player(i));
+    // m_channels waits for the stops still running and releases the players.
     for (QWidget*& widget : videoWidgets)
         widget = nullptr;
+}
+
+int VLCComponent::usedChannels() const {
+    return std::clamp(channelCount, 0, int(kMaxChannels));
+}
+
+int VLCComponent::seekableChannels() const {
+    int mask = 0;
+    for (int i = 0; i < usedChannels(); ++i) {
+        const libvlc_state_t state = libvlc_media_player_get_state(player(i));
+        if (state != libvlc_Ended && state != libvlc_Error && state != libvlc_Stopped &&
+            state != libvlc_NothingSpecial)
+            mask |= 1 << i;
+    }
+    return mask;
 }
 
 bool VLCComponent::IsSplitChannelFile(const char* path) {
@@ -163,13 +99,14 @@ bool VLCComponent::IsSplitChannelFile(const char* path) {
 
 void VLCComponent::SetFile(char* path, int count, double totalTime) {
     logDebug("VLCComponent::SetFile");
-    if (m_players[0] == nullptr)
+    if (player(0) == nullptr)
         return;
     // Every recording starts as it was recorded (and with the sound as the user left it).
-    m_settling = 0;
-    finishSettling();
+    m_join->cancel();
+    m_gate->hold();
+    m_realignOnResume = false;
     for (int i = 0; i < kMaxChannels; ++i) {
-        if (m_mirrored[i])
+        if (m_channels.isMirrored(i))
             replacePlayer(i, false);
     }
     m_filePath = QByteArray(path);
@@ -184,9 +121,9 @@ void VLCComponent::SetFile(char* path, int count, double totalTime) {
     // (The front player is always stopped through Stop or its end; its Stopped event drives
     // what comes next, so it is left alone here.)
     for (int i = 1; i < kMaxChannels; ++i) {
-        const libvlc_state_t state = libvlc_media_player_get_state(m_players[i]);
+        const libvlc_state_t state = libvlc_media_player_get_state(player(i));
         if (state == libvlc_Ended || state == libvlc_Error)
-            libvlc_media_player_stop(m_players[i]);
+            libvlc_media_player_stop(player(i));
     }
 
     uintptr_t windows[kMaxChannels] = {0, 0, 0};
@@ -194,58 +131,24 @@ void VLCComponent::SetFile(char* path, int count, double totalTime) {
         if (videoWidgets[i] != nullptr)
             windows[i] = videoWidgets[i]->winId();
     }
-    if (VlcCompat::window(m_players[0]) == 0) {
+    if (VlcCompat::window(player(0)) == 0) {
         for (int i = 0; i < kMaxChannels; ++i)
-            VlcCompat::setWindow(m_players[i], windows[i]);
+            VlcCompat::setWindow(player(i), windows[i]);
     }
     // A rear player parked by the last single-file recording gets its window back.
     for (int i = 1; i < kMaxChannels; ++i) {
-        if (windows[i] != 0 && VlcCompat::window(m_players[i]) != windows[i])
-            VlcCompat::setWindow(m_players[i], windows[i]);
+        if (windows[i] != 0 && VlcCompat::window(player(i)) != windows[i])
+            VlcCompat::setWindow(player(i), windows[i]);
     }
 
-    if (!m_splitChannelFiles) {
-        uintptr_t parking[kMaxChannels] = {0, 0, 0};
-        for (int i = 1; i < kMaxChannels; ++i)
-            parking[i] = m_parking[i]->winId();
-        VlcCompat::setSingleFileMedia(m_instance, m_players, count, path, windows, parking);
-        for (QByteArray& file : m_channelFiles)
-            file.clear();
-        playerState = FileSet;
-        logDebug("VLCComponent::SetFileClear");
-    } else {
-        SetSplitChannelFiles(path);
-    }
-    logInfo("!!! call VLC SetFile");
-}
-
-void VLCComponent::SetSplitChannelFiles(const char* path) {
-    VlcCompat::forgetTrackChoices();
-    const QFileInfo info(QDir::toNativeSeparators(QString::fromUtf8(path)));
-    const QString directory = info.absolutePath();
-    const QString baseName = info.completeBaseName();
-    const QString stem =
-        baseName.lastIndexOf('_') >= 0 ? baseName.left(baseName.size() - 2) : baseName;
-
-    QStringList found;
-    for (const char* suffix : {"_1.mp4", "_2.mp4", "_3.mp4"}) {
-        const QString candidate =
-            QDir::toNativeSeparators(directory + QDir::separator() + stem + QLatin1String(suffix));
-        const QFileInfo candidateInfo(candidate);
-        if (candidateInfo.exists() && candidateInfo.isFile())
-            found << candidate;
-    }
-    for (int i = 0; i < kMaxChannels; ++i) {
-        // libvlc takes paths as UTF-8 on every system.
-        m_channelFiles[i] = i < found.size() ? found[i].toUtf8() : QByteArray();
-        if (i >= found.size())
-            continue;
-        if (VlcCompat::setMedia(m_instance, m_players[i], m_channelFiles[i].constData(), i == 0,
-                                0) &&
-            i == 0)
-            channelCount = found.size();
-    }
+    // Every player starts paused: Play lets them go together (see ChannelGate).
+    const int opened = m_channels.open(path, m_splitChannelFiles, count, windows, true);
+    if (m_splitChannelFiles && opened >= 0)
+        channelCount = opened;
     playerState = FileSet;
+    if (!m_splitChannelFiles)
+        logDebug("VLCComponent::SetFileClear");
+    logInfo("!!! call VLC SetFile");
 }
 
 void VLCComponent::SetVideoWindow(int index, QWidget* widget) {
@@ -263,7 +166,7 @@ void VLCComponent::SetResize(int index, QSize size) {
 
 void VLCComponent::chooseAudioOutput(libvlc_media_player_t* player) {
     bool haveWaveOut = false;
-    libvlc_audio_output_t* outputs = libvlc_audio_output_list_get(m_instance);
+    libvlc_audio_output_t* outputs = libvlc_audio_output_list_get(m_channels.instance());
     for (libvlc_audio_output_t* it = outputs; it != nullptr; it = it->p_next) {
         logInfo("audio output: %s", it->psz_name);
         if (std::strncmp(it->psz_name, "waveout", 7) == 0) {
@@ -282,18 +185,21 @@ void VLCComponent::chooseAudioOutput(libvlc_media_player_t* player) {
 
 int VLCComponent::Play() {
     logDebug("VLCComponent::Play");
-    if (m_players[0] == nullptr)
+    if (player(0) == nullptr)
         return -1;
     emit send_ShowWidget(false);
-    chooseAudioOutput(m_players[0]);
+    chooseAudioOutput(player(0));
 
     m_rate = 1.0f;
     m_firstPictureSeen = false;
     m_stopDelivered = false;
-    for (int i = 0; i < channelCount && i < kMaxChannels; ++i) {
-        libvlc_media_player_play(m_players[i]);
-        libvlc_media_player_set_rate(m_players[i], 1.0f);
+    const int used = usedChannels();
+    m_gate->arm((1 << used) - 1);
+    for (int i = 0; i < used; ++i) {
+        libvlc_media_player_play(player(i));
+        libvlc_media_player_set_rate(player(i), 1.0f);
     }
+    m_gate->release(used);
     emit send_setBlockEvent(true);
     return 0;
 }
@@ -301,17 +207,24 @@ int VLCComponent::Play() {
 void VLCComponent::Pause() {
     logDebug("VLCComponent::Pause");
     m_syncTimer->stop();
-    for (int i = 0; i < channelCount && i < kMaxChannels; ++i)
-        libvlc_media_player_pause(m_players[i]);
+    m_gate->hold();
+    // Not libvlc's toggle: players the gate still holds are paused already and stay so.
+    for (int i = 0; i < usedChannels(); ++i)
+        libvlc_media_player_set_pause(player(i), 1);
     playerState = Paused;
 }
 
 void VLCComponent::Resume() {
     logDebug("VLCComponent::Resume");
-    for (int i = 0; i < channelCount && i < kMaxChannels; ++i)
-        libvlc_media_player_set_pause(m_players[i], 0);
     playerState = Playing;
     resetDriftEstimates();
+    if (m_realignOnResume || m_join->busy()) {
+        m_join->cancel();
+        m_realignOnResume = false;
+        seekTogether(std::max<libvlc_time_t>(libvlc_media_player_get_time(player(0)), 0));
+    } else {
+        m_gate->release(usedChannels());
+    }
     if (channelCount > 1)
         m_syncTimer->start();
 }
@@ -320,11 +233,14 @@ void VLCComponent::Stop(int reason) {
     logDebug("VLCComponent::Stop");
     logInfo("Stop");
     m_syncTimer->stop();
+    m_join->cancel();
+    m_realignOnResume = false;
     if (playerState == Paused)
         Resume();
+    m_gate->hold();
     m_syncTimer->stop();
-    for (int i = 0; i < channelCount && i < kMaxChannels; ++i)
-        libvlc_media_player_set_rate(m_players[i], 1.0f);
+    for (int i = 0; i < usedChannels(); ++i)
+        libvlc_media_player_set_rate(player(i), 1.0f);
     playerState = StopRequested;
     emit send_setLogo(true);
     emit send_setBlockEvent(true);
@@ -333,21 +249,37 @@ void VLCComponent::Stop(int reason) {
     // Rear players first: the front player's Stopped event then comes last, when every
     // channel has let go of its file. The front player is always stopped, even when the
     // channel count was cleared by the end of its streams, so that the stop is reported.
-    for (int i = std::min(channelCount, int(kMaxChannels)) - 1; i >= 1; --i)
-        VlcCompat::stopAsync(m_players[i]);
-    VlcCompat::stopAsync(m_players[0]);
+    for (int i = usedChannels() - 1; i >= 1; --i)
+        VlcCompat::stopAsync(player(i));
+    VlcCompat::stopAsync(player(0));
+}
+
+void VLCComponent::seekTogether(int64_t ms) {
+    resetDriftEstimates();
+    const int used = usedChannels();
+    // Players that run now (or are about to) run on after the move; paused ones stay paused
+    // and go together when the recording is resumed.
+    const bool run = playerState == Playing || m_gate->releasePending();
+    m_gate->hold();
+    if (run) {
+        for (int i = 0; i < used; ++i)
+            libvlc_media_player_set_pause(player(i), 1);
+    }
+    m_gate->arm(seekableChannels());
+    for (int i = 0; i < used; ++i)
+        VlcCompat::setTime(player(i), ms, false);
+    if (run)
+        m_gate->release(used);
 }
 
 void VLCComponent::Seek(int ms) {
     logDebug("VLCComponent::Seek");
-    resetDriftEstimates();
-    for (int i = 0; i < channelCount && i < kMaxChannels; ++i)
-        VlcCompat::setTime(m_players[i], ms, false);
+    seekTogether(ms);
 }
 
 void VLCComponent::Forward(int ms) {
     logDebug("VLCComponent::Forward");
-    const double target = double(libvlc_media_player_get_time(m_players[0])) + ms;
+    const double target = double(libvlc_media_player_get_time(player(0))) + ms;
     if (ms < 0) {
         Resume();
         return;
@@ -371,7 +303,7 @@ void VLCComponent::Rewind(int ms) {
         Stop(StopGoBack);
         return;
     }
-    const double target = double(libvlc_media_player_get_time(m_players[0])) - ms;
+    const double target = double(libvlc_media_player_get_time(player(0))) - ms;
     Seek(target < 0 ? 0 : int(target));
     if (playerState != Paused)
         Resume();
@@ -379,53 +311,60 @@ void VLCComponent::Rewind(int ms) {
 
 void VLCComponent::NextFrame() {
     logDebug("VLCComponent::NextFrame");
-    for (int i = 0; i < channelCount && i < kMaxChannels; ++i)
-        libvlc_media_player_next_frame(m_players[i]);
+    for (int i = 0; i < usedChannels(); ++i)
+        libvlc_media_player_next_frame(player(i));
+    // The players step to the same frame, but their clocks come out of frame steps a frame
+    // or two apart once they run again (measured): the resume moves them together first.
+    m_realignOnResume = true;
 }
 
 void VLCComponent::SetSpeed(double rate) {
     logDebug("VLCComponent::SetSpeed");
-    const int used = std::min(channelCount, int(kMaxChannels));
+    const int used = usedChannels();
+    const bool run = playerState == Playing || m_gate->releasePending();
+    m_gate->hold();
     for (int i = 0; i < used; ++i)
-        libvlc_media_player_set_pause(m_players[i], 1);
+        libvlc_media_player_set_pause(player(i), 1);
     m_rate = float(rate);
     resetDriftEstimates();
     for (int i = 0; i < used; ++i)
-        libvlc_media_player_set_rate(m_players[i], m_rate);
-    const double t = double(libvlc_media_player_get_time(m_players[0]));
+        libvlc_media_player_set_rate(player(i), m_rate);
+    // One second back, so that nothing is missed at the new speed; every channel moves, so
+    // that they set off together at the new speed.
+    const double t = double(libvlc_media_player_get_time(player(0)));
     const double target = (t - 0.5 < 0) ? 0 : t - 1000;
-    VlcCompat::setTime(m_players[0], int64_t(target), true);
+    m_gate->arm(seekableChannels());
     for (int i = 0; i < used; ++i)
-        libvlc_media_player_set_pause(m_players[i], 0);
+        VlcCompat::setTime(player(i), int64_t(target), true);
+    if (run)
+        m_gate->release(used);
 }
 
 void VLCComponent::SetVolume(int volume) {
     logDebug("VLCComponent::SetVolume");
-    libvlc_audio_set_volume(m_players[0], volume);
+    libvlc_audio_set_volume(player(0), volume);
 }
 
 void VLCComponent::SetMute(bool mute) {
     logDebug("VLCComponent::SetMute");
     // Kept for when a new front player has drawn its paused picture.
-    if (m_muteAfterSettle >= 0) {
-        m_muteAfterSettle = mute ? 1 : 0;
+    if (m_join->takeFrontMute(mute))
         return;
-    }
-    libvlc_audio_set_mute(m_players[0], mute ? 1 : 0);
+    libvlc_audio_set_mute(player(0), mute ? 1 : 0);
 }
 
 double VLCComponent::GetCurrentPos() {
     logDebug("VLCComponent::GetCurrentPos");
-    return double(libvlc_media_player_get_time(m_players[0]));
+    return double(libvlc_media_player_get_time(player(0)));
 }
 
 double VLCComponent::GetTotalTime() {
     logDebug("VLCComponent::GetTotalTime");
-    return double(libvlc_media_player_get_length(m_players[0]));
+    return double(libvlc_media_player_get_length(player(0)));
 }
 
 double VLCComponent::GetPosition() {
-    return double(libvlc_media_player_get_position(m_players[0]));
+    return double(libvlc_media_player_get_position(player(0)));
 }
 
 int VLCComponent::GetChannelCount() {
@@ -435,147 +374,90 @@ int VLCComponent::GetChannelCount() {
 double VLCComponent::GetChannelTime(int channel) {
     if (channel < 0 || channel >= kMaxChannels)
         return -1;
-    return double(libvlc_media_player_get_time(m_players[channel]));
+    return double(libvlc_media_player_get_time(player(channel)));
 }
 
 int VLCComponent::GetImage(int channel, const char* path) {
     logDebug("VLCComponent::GetImage");
     if (channel < 0 || channel >= kMaxChannels)
         return -1;
-    return VlcCompat::takeSnapshot(m_players[channel], path, 1920, 1080);
+    return VlcCompat::takeSnapshot(player(channel), path, 1920, 1080);
 }
 
 void VLCComponent::SetFlip(int channel, bool mirrored) {
     logDebug("VLCComponent::SetFlip");
-    if (channel < 0 || channel >= kMaxChannels || m_mirrored[channel] == mirrored)
+    if (channel < 0 || channel >= kMaxChannels || m_channels.isMirrored(channel) == mirrored)
         return;
     // Only a channel that shows a recording now is changed; the next one starts unmirrored.
     if ((playerState != Playing && playerState != Paused) || channel >= channelCount)
         return;
-    if (mirrored && m_mirrorInstance == nullptr) {
-        m_mirrorInstance = newInstance(true);
-        if (m_mirrorInstance == nullptr) {
-            logWarning("[VLCComponent]: libvlc cannot mirror pictures");
-            return;
-        }
-    }
-    const libvlc_time_t start =
-        std::max<libvlc_time_t>(libvlc_media_player_get_time(m_players[0]), 0);
+    const bool running = playerState == Playing;
+    const int used = usedChannels();
+    const int64_t start = std::max<libvlc_time_t>(libvlc_media_player_get_time(player(0)), 0);
     const uintptr_t window =
         videoWidgets[channel] != nullptr ? videoWidgets[channel]->winId() : uintptr_t(0);
-    libvlc_media_player_t* player = replacePlayer(channel, mirrored);
-    if (player == nullptr)
+    if (running) {
+        // The others wait at the front camera's time while the new player fills its buffer;
+        // then all of them go on together.
+        m_gate->hold();
+        for (int i = 0; i < used; ++i)
+            libvlc_media_player_set_pause(player(i), 1);
+    }
+    if (replacePlayer(channel, mirrored) == nullptr ||
+        !m_channels.reopen(channel, start, running, window)) {
+        logWarning("[VLCComponent]: libvlc cannot mirror pictures");
+        if (running)
+            m_gate->release(used);
         return;
-    libvlc_instance_t* instance = instanceFor(mirrored);
-    VlcCompat::setWindow(player, window);
-    if (m_splitChannelFiles) {
-        if (!VlcCompat::setMedia(instance, player, m_channelFiles[channel].constData(),
-                                 channel == 0, start))
-            return;
-    } else {
-        VlcCompat::setTrackMedia(instance, player, channel, m_filePath.constData(), window,
-                                 m_parking[channel]->winId(), start);
     }
-    if (channel == 0) {
-        chooseAudioOutput(player);
-        // A paused recording stays silent while the new front player draws its picture.
-        if (playerState == Paused && m_muteAfterSettle < 0) {
-            m_muteAfterSettle = libvlc_audio_get_mute(player) == 1 ? 1 : 0;
-            libvlc_audio_set_mute(player, 1);
-        }
-    }
-    libvlc_media_player_play(player);
-    libvlc_media_player_set_rate(player, m_rate);
+    if (channel == 0)
+        chooseAudioOutput(player(0));
+    m_flipped = true;
     resetDriftEstimates();
-    m_sceneBefore[channel] = sceneImage(videoWidgets[channel]);
-    m_outputTick[channel] = -1;
-    m_settling |= 1 << channel;
-    m_settleTicks = 0;
-    m_settleTimer->start();
+    if (running) {
+        m_gate->arm(seekableChannels() | (1 << channel));
+        libvlc_media_player_play(player(channel));
+        libvlc_media_player_set_rate(player(channel), m_rate);
+        for (int i = 0; i < used; ++i) {
+            if (i != channel)
+                VlcCompat::setTime(player(i), start, false);
+        }
+        m_gate->release(used);
+        return;
+    }
+    // Paused: the new player plays until its picture is in the scene, then rests there. Its
+    // clock is not the others' any more, so the resume moves every channel together.
+    libvlc_media_player_play(player(channel));
+    libvlc_media_player_set_rate(player(channel), m_rate);
+    const unsigned outputs =
+        (channel > 0 && !m_splitChannelFiles && VlcCompat::tracksChosenWithMedia()) ? 2 : 1;
+    m_join->add(channel, videoWidgets[channel], outputs);
+    m_realignOnResume = true;
 }
 
 libvlc_media_player_t* VLCComponent::replacePlayer(int channel, bool mirrored) {
-    libvlc_instance_t* instance = instanceFor(mirrored);
-    libvlc_media_player_t* player = instance ? libvlc_media_player_new(instance) : nullptr;
-    if (player == nullptr)
+    libvlc_media_player_t* old = nullptr;
+    libvlc_media_player_t* fresh = m_channels.replace(channel, mirrored, &old);
+    if (fresh == nullptr)
         return nullptr;
-    libvlc_media_player_t* old = m_players[channel];
+    m_gate->unwatch(channel, old);
+    m_gate->watch(channel, fresh);
     if (channel == 0) {
         detachFrontHandlers(old);
-        attachFrontHandlers(player);
+        attachFrontHandlers(fresh);
         const int volume = libvlc_audio_get_volume(old);
         if (volume >= 0)
-            libvlc_audio_set_volume(player, volume);
-        libvlc_audio_set_mute(player, libvlc_audio_get_mute(old) == 1);
+            libvlc_audio_set_volume(fresh, volume);
+        libvlc_audio_set_mute(fresh, libvlc_audio_get_mute(old) == 1);
     }
-    VlcCompat::retire(old);
-    m_players[channel] = player;
-    m_mirrored[channel] = mirrored;
-    return player;
+    ChannelPlayers::retire(old);
+    return fresh;
 }
 
-void VLCComponent::settleReplacedPlayers() {
-    const bool over = m_settling == 0 || stoppingOrStopped();
-    if (!over && ++m_settleTicks > kSettleTicks)
-        logWarning("[VLCComponent]: players 0x%x showed no picture after a flip", m_settling);
-    if (over || m_settleTicks > kSettleTicks) {
-        m_settling = 0;
-        finishSettling();
+void VLCComponent::afterFlip() {
+    if (!m_flipped)
         return;
-    }
-    bool realign = false;
-    for (int i = 0; i < kMaxChannels; ++i) {
-        if (!(m_settling & (1 << i)))
-            continue;
-        libvlc_media_player_t* player = m_players[i];
-        // A rear track of a single-file recording shows its picture in a second output,
-        // after the parked one.
-        const unsigned outputs =
-            (i > 0 && !m_splitChannelFiles && VlcCompat::tracksChosenWithMedia()) ? 2 : 1;
-        if (libvlc_media_player_get_state(player) != libvlc_Playing ||
-            libvlc_media_player_has_vout(player) < outputs)
-            continue;
-        // The old player's last picture stays in the scene until the new one draws: the new
-        // player counts as shown once the scene changes (or after a moment at most).
-        if (m_outputTick[i] < 0)
-            m_outputTick[i] = m_settleTicks;
-        if (m_settleTicks - m_outputTick[i] < kShowTicks &&
-            !imagesDiffer(m_sceneBefore[i], sceneImage(videoWidgets[i])))
-            continue;
-        if (playerState == Paused) {
-            // Paused before its output has drawn, it would leave the old picture there.
-            libvlc_media_player_set_pause(player, 1);
-            // And it stays where it started, next to the paused front camera.
-        } else {
-            realign = true;
-        }
-        m_sceneBefore[i] = QImage();
-        m_settling &= ~(1 << i);
-        if (i == 0)
-            restoreFrontMute();
-    }
-    // A player started on its own is never quite where the others are (it stayed 300-570 ms
-    // behind when only it was pulled). Moving every channel to the same time at once puts
-    // them back in step, as any seek does.
-    if (realign && m_settling == 0) {
-        const libvlc_time_t front = libvlc_media_player_get_time(m_players[0]);
-        if (front >= 0)
-            Seek(int(front));
-    }
-    if (m_settling == 0)
-        finishSettling();
-}
-
-void VLCComponent::restoreFrontMute() {
-    if (m_muteAfterSettle < 0)
-        return;
-    libvlc_audio_set_mute(m_players[0], m_muteAfterSettle);
-    m_muteAfterSettle = -1;
-}
-
-void VLCComponent::finishSettling() {
-    m_settleTimer->stop();
-    restoreFrontMute();
+    m_flipped = false;
     // The replaced players are gone by now; their decoders' memory goes back to the system.
     platform::returnFreedMemory();
 }
@@ -716,36 +598,26 @@ void VLCComponent::onEvent(const libvlc_event_t* event, void* self) {
 
 // ---- Follow-ups of events (GUI thread) ----
 
-void VLCComponent::pullRearChannelsToFront() {
-    const libvlc_time_t front = libvlc_media_player_get_time(m_players[0]);
-    logInfo("!@# time3 = %lld", static_cast<long long>(front));
-    for (int i = 1; i < channelCount && i < kMaxChannels; ++i) {
-        if (needsPull(i, front))
-            VlcCompat::setTime(m_players[i], front, false);
-    }
-}
-
-bool VLCComponent::needsPull(int channel, libvlc_time_t front) const {
-    const libvlc_time_t rear = libvlc_media_player_get_time(m_players[channel]);
-    return std::llabs(static_cast<long long>(rear - front)) >= VlcCompat::kTimeResolutionMs;
+void VLCComponent::logPlaying() {
+    // The rear players are not pulled to the front player's time here: they were let go
+    // together with it, and a pull would only start that one player's clock anew, off by
+    // whatever its own start-up takes.
+    logInfo("!@# time3 = %lld", static_cast<long long>(libvlc_media_player_get_time(player(0))));
 }
 
 void VLCComponent::applyFirstPicture() {
     // The stop may have been asked for while this was queued.
     if (stoppingOrStopped())
         return;
-    const libvlc_state_t state = libvlc_media_player_get_state(m_players[0]);
+    const libvlc_state_t state = libvlc_media_player_get_state(player(0));
     if (state == libvlc_Ended || state == libvlc_Stopped)
         return;
-    const libvlc_time_t front = libvlc_media_player_get_time(m_players[0]);
     m_trackPending = 0;
-    for (int i = 0; i < channelCount && i < kMaxChannels; ++i) {
+    for (int i = 0; i < usedChannels(); ++i) {
         if (!m_splitChannelFiles && !VlcCompat::tracksChosenWithMedia() &&
-            VlcCompat::selectVideoTrack(m_players[i], i) != 0)
+            VlcCompat::selectVideoTrack(player(i), i) != 0)
             m_trackPending |= 1 << i;
-        libvlc_media_player_set_rate(m_players[i], 1.0f);
-        if (i > 0 && needsPull(i, front))
-            VlcCompat::setTime(m_players[i], front, true);
+        libvlc_media_player_set_rate(player(i), 1.0f);
     }
     if (m_trackPending != 0) {
         m_trackAttempts = 0;
@@ -767,7 +639,7 @@ void VLCComponent::retryTrackSelection() {
     if (stoppingOrStopped() || m_trackPending == 0)
         return;
     for (int i = 0; i < channelCount && i < kMaxChannels; ++i) {
-        if ((m_trackPending & (1 << i)) && VlcCompat::selectVideoTrack(m_players[i], i) == 0)
+        if ((m_trackPending & (1 << i)) && VlcCompat::selectVideoTrack(player(i), i) == 0)
             m_trackPending &= ~(1 << i);
     }
     if (m_trackPending != 0 && ++m_trackAttempts < kTrackRetries)
@@ -777,9 +649,9 @@ void VLCComponent::retryTrackSelection() {
 }
 
 void VLCComponent::finishStop(int reason) {
-    VlcCompat::resetAudioDevice(m_players[0]);
+    VlcCompat::resetAudioDevice(player(0));
     if (reason == StopFileRemoved)
-        libvlc_media_player_set_media(m_players[0], nullptr);
+        libvlc_media_player_set_media(player(0), nullptr);
 }
 
 void VLCComponent::syncRearChannels() {
@@ -787,31 +659,25 @@ void VLCComponent::syncRearChannels() {
         m_syncTimer->stop();
         return;
     }
-    const double front = double(libvlc_media_player_get_time(m_players[0]));
+    // While the gate holds the players their times say nothing about their step.
+    if (m_gate->releasePending())
+        return;
+    const double front = double(libvlc_media_player_get_time(player(0)));
     if (front <= 0)
         return;
-    for (int i = 1; i < channelCount && i < kMaxChannels; ++i) {
-        // A player that joined after a flip is left alone until it shows its picture.
-        if (libvlc_media_player_get_state(m_players[i]) != libvlc_Playing ||
-            (m_settling & (1 << i)))
+    for (int i = 1; i < usedChannels(); ++i) {
+        if (libvlc_media_player_get_state(player(i)) != libvlc_Playing)
             continue;
-        const double rear = double(libvlc_media_player_get_time(m_players[i]));
+        const double rear = double(libvlc_media_player_get_time(player(i)));
         const DriftEstimator::Decision decision = m_drift[i].add(front, rear);
         switch (decision.action) {
         case DriftEstimator::Action::Seek:
             logDebug("VLCComponent::syncRearChannels channel %d off by %.0f ms: seek", i,
                      decision.driftMs);
-            libvlc_media_player_set_rate(m_players[i], m_rate);
-            VlcCompat::setTime(m_players[i], int64_t(front), false);
-            break;
-        case DriftEstimator::Action::Nudge:
-            logDebug("VLCComponent::syncRearChannels channel %d off by %.0f ms: rate x%.3f", i,
-                     decision.driftMs, decision.rateScale);
-            libvlc_media_player_set_rate(m_players[i], float(m_rate * decision.rateScale));
-            break;
+            // Every channel moves, so that all of them set off together again.
+            seekTogether(int64_t(front));
+            return;
         case DriftEstimator::Action::None:
-            if (libvlc_media_player_get_rate(m_players[i]) != m_rate)
-                libvlc_media_player_set_rate(m_players[i], m_rate);
             break;
         }
     }

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "ChannelPlayers.h"
 #include "DriftEstimator.h"
 #include <QObject>
 
-#include <QByteArray>
 #include <QImage>
 #include <QSize>
 
@@ -12,12 +12,18 @@
 #include <atomic>
 #include <mutex>
 
+class ChannelGate;
+class PausedJoin;
 class QTimer;
 class QWidget;
 
-// Drives libvlc: one instance, three media players (front, rear 1, rear 2) drawing into the
-// scene widgets. Player 0 is the master: time, length, rate, volume and mute are its own,
-// and the other players are pulled to its time.
+// Drives libvlc: three media players (front, rear 1, rear 2) drawing into the scene widgets.
+// Player 0 is the master: time, length, rate, volume and mute are its own.
+//
+// The channels run in step because they never start on their own: every start, seek and
+// change of speed pauses them, lets each fill its buffer, and lets them all go on one tick
+// (ChannelGate). Each player's clock is anchored at that moment, so they show the same frame
+// together.
 //
 // libvlc calls the event handlers on its own threads. They only record state and emit
 // signals; whatever libvlc work must follow an event runs in a queued slot on the GUI
@@ -43,7 +49,7 @@ public:
         StopFileRemoved = 4,
         StopGoBack = 5,
     };
-    static constexpr int kMaxChannels = 3;
+    static constexpr int kMaxChannels = ChannelPlayers::kMaxChannels;
 
     // Shared with the coordinator, the file list and the panels.
     static int channelCount;
@@ -104,12 +110,12 @@ public slots:
     void recv_ShowWidget(bool show);
 
 private slots:
-    void pullRearChannelsToFront();
+    void logPlaying();
     void applyFirstPicture();
     void finishStop(int reason);
     void syncRearChannels();
     void retryTrackSelection();
-    void settleReplacedPlayers();
+    void afterFlip();
 
 private:
     static void onPlaying(const libvlc_event_t* event, void* self);
@@ -119,49 +125,36 @@ private:
     static void onEsDeleted(const libvlc_event_t* event, void* self);
     static void onEvent(const libvlc_event_t* event, void* self);
 
-    void SetSplitChannelFiles(const char* path);
+    libvlc_media_player_t* player(int channel) const { return m_channels.player(channel); }
+    int usedChannels() const;
+    // The channels whose players will buffer after a seek (a player at its end will not).
+    int seekableChannels() const;
     // The front player's handlers, on the player that is the front one now.
     void attachFrontHandlers(libvlc_media_player_t* player);
     void detachFrontHandlers(libvlc_media_player_t* player);
     // Puts a new player of the plain or the mirroring instance in a channel's place; the
     // old one is stopped and released in the background.
     libvlc_media_player_t* replacePlayer(int channel, bool mirrored);
-    libvlc_instance_t* instanceFor(bool mirrored) const {
-        return mirrored ? m_mirrorInstance : m_instance;
-    }
     void chooseAudioOutput(libvlc_media_player_t* player);
-    void restoreFrontMute();
-    // No player is settling any more: timer off, the front camera's mute back.
-    void finishSettling();
+    // Every used channel to ms together: paused, moved, let go on one tick once all have
+    // buffered (unless the recording is paused, when they stay paused).
+    void seekTogether(int64_t ms);
     bool stoppingOrStopped() const;
-    // Whether a rear player is measurably off the front player's time.
-    bool needsPull(int channel, libvlc_time_t front) const;
     void resetDriftEstimates();
 
-    libvlc_instance_t* m_instance = nullptr;
-    // libvlc 3.0 takes video filters per instance only, so mirrored channels play on an
-    // instance of their own, made on the first flip.
-    libvlc_instance_t* m_mirrorInstance = nullptr;
-    bool m_mirrored[kMaxChannels] = {false, false, false};
-    // The file each player plays when a recording is one file per channel.
-    QByteArray m_channelFiles[kMaxChannels];
-    libvlc_media_player_t* m_players[kMaxChannels] = {nullptr, nullptr, nullptr};
+    ChannelPlayers m_channels;
+    ChannelGate* m_gate;
+    PausedJoin* m_join;
     double m_totalTime = 0;
     QByteArray m_filePath;
     bool m_splitChannelFiles = false;
     QTimer* m_syncTimer;
-    // Players that joined a running recording and still have to reach its time and state.
-    QTimer* m_settleTimer;
-    int m_settling = 0;
-    int m_settleTicks = 0;
-    // The scene as it was before the flip, and the tick at which the new player's output was
-    // up; the player has shown its picture once the scene changes.
-    QImage m_sceneBefore[kMaxChannels];
-    int m_outputTick[kMaxChannels] = {-1, -1, -1};
-    // The front player's mute while a new front player plays silently to a paused picture.
-    int m_muteAfterSettle = -1;
-    // Hidden windows a rear player draws into until its track is chosen (libvlc 3.0).
-    QWidget* m_parking[kMaxChannels] = {nullptr, nullptr, nullptr};
+    // Set when the channels may have left their step while paused (frame steps, a camera
+    // joined): the next resume moves them all to the front camera's time first.
+    bool m_realignOnResume = false;
+    // A channel was given a new player: the old one's memory goes back to the system once
+    // the new one runs.
+    bool m_flipped = false;
     DriftEstimator m_drift[kMaxChannels];
     float m_rate = 1.0f;
     std::atomic<bool> m_firstPictureSeen{false};

@@ -329,9 +329,11 @@ bool VlcCompat::isTrackListBookkeeping(const libvlc_event_t* event) {
 
 void VlcCompat::setSingleFileMedia(libvlc_instance_t* instance, libvlc_media_player_t** players,
                                    int count, const char* path, const uintptr_t* windows,
-                                   const uintptr_t* parking) {
+                                   const uintptr_t* parking, bool startPaused) {
 #if LIBVLC_VERSION_MAJOR >= 4
     libvlc_media_t* media = libvlc_media_new_path(path);
+    if (media != nullptr && startPaused)
+        libvlc_media_add_option(media, ":start-paused");
     libvlc_media_player_set_media(players[0], media);
     if (media != nullptr)
         libvlc_media_add_option(media, "no-audio");
@@ -346,12 +348,12 @@ void VlcCompat::setSingleFileMedia(libvlc_instance_t* instance, libvlc_media_pla
     // Players that share one media disturb each other's track choice in 3.0: each player
     // gets its own media of the file.
     for (int i = 0; i < count && i < 3; ++i)
-        setTrackMedia(instance, players[i], i, path, windows[i], parking[i], 0);
+        setTrackMedia(instance, players[i], i, path, windows[i], parking[i], 0, startPaused);
 #endif
 }
 
 bool VlcCompat::setMedia(libvlc_instance_t* instance, libvlc_media_player_t* player,
-                         const char* path, bool sound, int64_t startMs) {
+                         const char* path, bool sound, int64_t startMs, bool startPaused) {
 #if LIBVLC_VERSION_MAJOR >= 4
     libvlc_media_t* media = libvlc_media_new_path(path);
     (void)instance;
@@ -370,6 +372,8 @@ bool VlcCompat::setMedia(libvlc_instance_t* instance, libvlc_media_player_t* pla
                       static_cast<long long>(startMs % 1000));
         libvlc_media_add_option(media, start);
     }
+    if (startPaused)
+        libvlc_media_add_option(media, ":start-paused");
     libvlc_media_player_set_media(player, media);
     libvlc_media_release(media);
     return true;
@@ -377,8 +381,8 @@ bool VlcCompat::setMedia(libvlc_instance_t* instance, libvlc_media_player_t* pla
 
 void VlcCompat::setTrackMedia(libvlc_instance_t* instance, libvlc_media_player_t* player, int index,
                               const char* path, uintptr_t window, uintptr_t parking,
-                              int64_t startMs) {
-    if (!setMedia(instance, player, path, index == 0, startMs))
+                              int64_t startMs, bool startPaused) {
+    if (!setMedia(instance, player, path, index == 0, startMs, startPaused))
         return;
 #if LIBVLC_VERSION_MAJOR >= 4
     (void)window;

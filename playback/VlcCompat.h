@@ -50,12 +50,6 @@ public:
     // precisely.
     static void setTime(libvlc_media_player_t* player, int64_t ms, bool fast);
 
-    // How finely a player reports its time. libvlc 3.0 reports the demuxer's position, which
-    // moves in steps of about a quarter of a second; two players in step can differ by that
-    // much. Pulling a player to another's time by less than this only adds the error of the
-    // reading.
-    static constexpr int kTimeResolutionMs = LIBVLC_VERSION_MAJOR >= 4 ? 0 : 300;
-
     // The native window the player draws into: an HWND on Windows, an X11 window elsewhere.
     static void setWindow(libvlc_media_player_t* player, uintptr_t window);
     static uintptr_t window(libvlc_media_player_t* player);
@@ -67,20 +61,22 @@ public:
     // the same file with its track chosen before it starts.
     // windows: the players' own windows; parking: hidden windows the rear players may draw
     // into until their track is chosen (see the implementation).
+    // startPaused: the players pause before they buffer (see ChannelGate).
     static void setSingleFileMedia(libvlc_instance_t* instance, libvlc_media_player_t** players,
                                    int count, const char* path, const uintptr_t* windows,
-                                   const uintptr_t* parking);
+                                   const uintptr_t* parking, bool startPaused);
 
     // Gives the player a media of the file: sound off for rear channels, playing from startMs
-    // when above 0. False when libvlc cannot make the media.
+    // when above 0, and paused before it buffers when startPaused. False when libvlc cannot
+    // make the media.
     static bool setMedia(libvlc_instance_t* instance, libvlc_media_player_t* player,
-                         const char* path, bool sound, int64_t startMs);
+                         const char* path, bool sound, int64_t startMs, bool startPaused);
 
     // The same as setSingleFileMedia for one player that joins a single-file recording on its
     // own (index = its track), starting at startMs.
     static void setTrackMedia(libvlc_instance_t* instance, libvlc_media_player_t* player, int index,
                               const char* path, uintptr_t window, uintptr_t parking,
-                              int64_t startMs);
+                              int64_t startMs, bool startPaused);
 
     // Stops a player that is no longer used and releases it, off the calling thread. Its
     // handlers are dropped first, so the stop reports nothing.

@@ -4,7 +4,8 @@
     make_recordings.py demo  DIR          the demo set the viewer starts on
     make_recordings.py test  DIR          tiny media and bad files for the test suite
     make_recordings.py bench DIR [-n N]   media for the benchmarks in bench/
-    make_recordings.py playback DIR       one colour per channel, for the player's tests
+    make_recordings.py playback DIR       one colour per channel (and small bar-coded channels
+                                          in DIR/steps), for the player's tests
     make_recordings.py sync DIR           three 1080p channels whose frames carry their number
 
 Telemetry is written as a timed-text track in the syntax of docs/telemetry-format.md. A
@@ -532,25 +533,37 @@ def make_playback(folder, scratch):
     run(["-i", parts[0], "-i", parts[1], "-i", parts[2], "-f", "lavfi", "-i", "sine=d=4",
          "-map", "0:v", "-map", "1:v", "-map", "2:v", "-map", "3:a", "-c:v", "copy",
          "-c:a", "aac", "-shortest", path("20240301_092000_USR_4.mp4")])
+    # Small bar-coded channels for checks of the channels' step, in a folder of their own so
+    # that they are not among the recordings a test lists.
+    os.makedirs(path("steps"))
+    bar_coded_channels(path("steps"), 320, 180, 10, audio=True)
 
 
-def make_sync(folder, scratch):
-    """Three 1080p channels of 25 s at 30 fps. The top 64 rows carry the frame number as 16
+def bar_coded_channels(folder, width, height, seconds, audio=False):
+    """Three channels at 30 fps whose top rows (64 of 1080) carry the frame number as 16
     black or white bars (bit 0 at the left), so a screen grab tells which frame each scene
-    shows."""
+    shows. With audio, the front channel has sound, as a camera's does."""
     bars = "geq=lum='255*mod(floor(N/pow(2,floor(X*16/W))),2)':cb=128:cr=128"
     jobs = []
     for channel in (1, 2, 3):
+        sound = ["-f", "lavfi", "-i", "sine=d=%d" % seconds] if audio and channel == 1 else []
         jobs.append(subprocess.Popen(
             [FFMPEG, "-nostdin", "-v", "error", "-y",
-             "-f", "lavfi", "-i", "testsrc2=s=1920x1080:r=30:d=25",
-             "-f", "lavfi", "-i", "nullsrc=s=1920x64:r=30:d=25",
-             "-filter_complex", "[1]%s[bar];[0][bar]overlay=0:0" % bars,
-             "-c:v", "libx264", "-preset", "veryfast", "-pix_fmt", "yuv420p", "-g", "30",
-             os.path.join(folder, "20240701_090000_INF_%d.mp4" % channel)]))
+             "-f", "lavfi", "-i", "testsrc2=s=%dx%d:r=30:d=%d" % (width, height, seconds),
+             "-f", "lavfi", "-i", "nullsrc=s=%dx%d:r=30:d=%d" % (width, max(8, height * 64 // 1080),
+                                                                 seconds)] + sound +
+            ["-filter_complex", "[1]%s[bar];[0][bar]overlay=0:0" % bars,
+             "-c:v", "libx264", "-preset", "veryfast", "-pix_fmt", "yuv420p", "-g", "30"] +
+            (["-c:a", "aac", "-shortest"] if sound else []) +
+            [os.path.join(folder, "20240701_090000_INF_%d.mp4" % channel)]))
     for job in jobs:
         if job.wait() != 0:
-            sys.exit("make_recordings: ffmpeg failed making the sync recordings")
+            sys.exit("make_recordings: ffmpeg failed making the bar-coded recordings")
+
+
+def make_sync(folder, scratch):
+    """Three 1080p channels of 25 s, their frame numbers as bar codes."""
+    bar_coded_channels(folder, 1920, 1080, 25)
 
 
 # --- entry -------------------------------------------------------------------------------
