@@ -4,7 +4,7 @@
 #include "AppGlobals.h"
 #include "LanguageView.h"
 #include "LeftSideView.h"
-#include "ListPrompt.h"
+#include "TavPrompt.h"
 #include "PlayControlView.h"
 #include "PlayScreenWindow.h"
 #include "PlayerInterface.h"
@@ -505,9 +505,9 @@ void MainWindow::onGetImage() {
     }
     if (failures.isEmpty()) {
         AppGlobals::snapshotPath = folder;
-        ListPrompt::inform(this, tr("Complete to Save Snapshot!"));
+        TavPrompt::inform(this, tr("Complete to Save Snapshot!"));
     } else {
-        ListPrompt::inform(this, tr("Snapshot not saved:") + "\n" + failures.join('\n'));
+        TavPrompt::inform(this, tr("Snapshot not saved:") + "\n" + failures.join('\n'));
     }
 }
 

@@ -1,7 +1,7 @@
 #include "FileListLoader.h"
 
 #include "CameraCountDelegate.h"
-#include "ListPrompt.h"
+#include "TavPrompt.h"
 #include "PlayerInterface.h"
 #include "RecordingBatch.h"
 #include "RecordingName.h"
@@ -61,7 +61,7 @@ void FileListLoader::load(const QStringList& paths, const QSet<QString>& listedF
     }
     if (paths.isEmpty()) {
         logInfo("[TavFileListItem]: no Item.");
-        ListPrompt::inform(&m_list, TavFileListItem::tr("There is no item."));
+        TavPrompt::inform(&m_list, TavFileListItem::tr("There is no item."));
         return;
     }
     bool rejected = false;
@@ -71,7 +71,7 @@ void FileListLoader::load(const QStringList& paths, const QSet<QString>& listedF
         // One recording, as one file or as its channel files together, is added to the list.
         if (isListed(batch.first())) {
             logInfo("[TavFileListItem]: Some files were loaded already.");
-            ListPrompt::inform(&m_list, TavFileListItem::tr("Item is exist!"));
+            TavPrompt::inform(&m_list, TavFileListItem::tr("Item is exist!"));
             return;
         }
         append(batch.first());
@@ -81,7 +81,7 @@ void FileListLoader::load(const QStringList& paths, const QSet<QString>& listedF
             replaceWith(batch);
         if (rejected) {
             logInfo("[TavFileListItem]: Unsupported Files.");
-            ListPrompt::inform(
+            TavPrompt::inform(
                 &m_list,
                 TavFileListItem::tr("Item format is different with our service supproted!"));
             m_list.scheduleThumbnails();

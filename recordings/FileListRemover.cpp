@@ -1,7 +1,7 @@
 #include "FileListRemover.h"
 
 #include "ItemInfoThread.h"
-#include "ListPrompt.h"
+#include "TavPrompt.h"
 #include "PlayerInterface.h"
 #include "StatusLog.h"
 #include "TavFileListItem.h"
@@ -40,7 +40,7 @@ void FileListRemover::deleteSelected(bool fromDisk) {
     const QString question =
         fromDisk ? TavFileListItem::tr("Do you want to delete the selected files at disk?")
                  : TavFileListItem::tr("Do you want to delete the selected files at list?");
-    if (!ListPrompt::ask(&m_list, question)) {
+    if (!TavPrompt::ask(&m_list, question)) {
         logInfo("Select No");
         return;
     }
@@ -82,7 +82,7 @@ void FileListRemover::removeRows(QList<int> rows, bool fromDisk) {
     }
     m_list.onRenumber();
     if (keptLoading)
-        ListPrompt::inform(&m_list,
+        TavPrompt::inform(&m_list,
                            TavFileListItem::tr("This File is loading now.. Please try later"));
     if (!left.isEmpty())
         reportFilesLeft(left);
@@ -111,6 +111,6 @@ void FileListRemover::reportFilesLeft(QStringList files) {
         //: Ends the list of files that could not be deleted when it is too long to show.
         lines << TavFileListItem::tr("and %1 more").arg(files.size() - kNamedFailures);
     //: %1: the files, one per line.
-    ListPrompt::inform(&m_list, TavFileListItem::tr("These files could not be deleted:\n%1")
+    TavPrompt::inform(&m_list, TavFileListItem::tr("These files could not be deleted:\n%1")
                                     .arg(lines.join(QLatin1Char('\n'))));
 }

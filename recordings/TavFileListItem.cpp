@@ -5,7 +5,7 @@
 #include "FileListRemover.h"
 #include "ItemInfoThread.h"
 #include "LengthReading.h"
-#include "ListPrompt.h"
+#include "TavPrompt.h"
 #include "PlayerInterface.h"
 #include "RecordingName.h"
 #include "StatusLog.h"
@@ -143,7 +143,7 @@ void TavFileListItem::loadPaths(const QStringList& paths) {
 
 void TavFileListItem::recvReqFileOpen() {
     logDebug("TavFileListItem::recvReqFileOpen");
-    const QStringList paths = ListPrompt::openFiles(this, tr("Open file"), QStringLiteral("./"),
+    const QStringList paths = TavPrompt::openFiles(this, tr("Open file"), QStringLiteral("./"),
                                                     tr("Movie file (*.avi *.mp4)"));
     // A cancelled dialog is not an empty load: nothing to tell the user.
     if (!paths.isEmpty())
@@ -155,7 +155,7 @@ void TavFileListItem::onOpenFolderDlg() {
     if (PlayerInterface::playStatus == PlayerInterface::PlayRunning ||
         PlayerInterface::playStatus == PlayerInterface::PlayPaused)
         emit onSendStop(3);
-    const QString folder = ListPrompt::openFolder(this, tr("Open Folder"));
+    const QString folder = TavPrompt::openFolder(this, tr("Open Folder"));
     if (!folder.isEmpty())
         m_loader->loadFolder(folder);
 }
@@ -302,7 +302,7 @@ void TavFileListItem::onChangePlayItem(int direction) {
             PlayerInterface::playStatus != PlayerInterface::PlayPaused)
             emit onSendLogoSet(true);
         QTimer::singleShot(0, this, [this] { emit onSetBlockEvent(false); });
-        ListPrompt::inform(this, tr("There is no item."));
+        TavPrompt::inform(this, tr("There is no item."));
         return;
     }
     playItem(target);
@@ -312,7 +312,7 @@ void TavFileListItem::onSetFirstFile() {
     logDebug("TavFileListItem::onSetFirstFile");
     if (visibleRows.isEmpty()) {
         logInfo("[TavFileListItem]: no Item.");
-        ListPrompt::inform(this, tr("There is no item."));
+        TavPrompt::inform(this, tr("There is no item."));
         return;
     }
     playItem(visibleRows.first());

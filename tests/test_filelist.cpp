@@ -4,7 +4,7 @@
 #include "AppGlobals.h"
 #include "CameraCountDelegate.h"
 #include "ItemInfoThread.h"
-#include "ListPrompt.h"
+#include "TavPrompt.h"
 #include "PlayerInterface.h"
 #include "TavFileListItem.h"
 
@@ -152,8 +152,8 @@ private slots:
                                        h264));
         m_avi = m_dir.filePath("single/20240612_123100_PRK_1.avi");
         QVERIFY(makeVideo(m_avi, {"-c:v", "mpeg4"}));
-        ListPrompt::informHook = [this](const QString& text) { m_messages << text; };
-        ListPrompt::askHook = [this](const QString& text) {
+        TavPrompt::informHook = [this](const QString& text) { m_messages << text; };
+        TavPrompt::askHook = [this](const QString& text) {
             m_questions << text;
             return m_answer;
         };
@@ -257,10 +257,10 @@ private slots:
         QCOMPARE(stop.at(0).at(0).toInt(), 3);
         QVERIFY(m_messages.isEmpty());
 
-        ListPrompt::openFolderHook = [&] { return folder; };
+        TavPrompt::openFolderHook = [&] { return folder; };
         list.onDeleteAllFileAtList();
         list.onOpenFolderDlg();
-        ListPrompt::openFolderHook = nullptr;
+        TavPrompt::openFolderHook = nullptr;
         QCOMPARE(list.rowCount(), 3);
     }
 

@@ -3,7 +3,7 @@
 // its own scene; the end of a recording moves to the next row the type filter shows; the
 // playing row is deleted.
 #include "AppGlobals.h"
-#include "ListPrompt.h"
+#include "TavPrompt.h"
 #include "MainWindow.h"
 #include "PlayScreenWindow.h"
 #include "PlayerInterface.h"
@@ -182,9 +182,9 @@ private slots:
         QTemporaryDir pictures;
         AppGlobals::snapshotPath = pictures.path();
         QStringList messages;
-        ListPrompt::informHook = [&messages](const QString& text) { messages << text; };
+        TavPrompt::informHook = [&messages](const QString& text) { messages << text; };
         QTest::mouseClick(m_window->findChild<QPushButton*>("bCapture"), Qt::LeftButton);
-        ListPrompt::informHook = nullptr;
+        TavPrompt::informHook = nullptr;
         AppGlobals::snapshotPath.clear();
         QCOMPARE(messages, QStringList{"Complete to Save Snapshot!"});
         const QStringList files =
@@ -246,11 +246,11 @@ private slots:
         // Back past the start of the first recording: there is no previous one. The player
         // stops at the logo, says so, and takes input again.
         QStringList messages;
-        ListPrompt::informHook = [&messages](const QString& text) { messages << text; };
+        TavPrompt::informHook = [&messages](const QString& text) { messages << text; };
         PlayerInterface::currentTime = 0;
         m_window->player()->on5sMove(false);
         QTRY_COMPARE_WITH_TIMEOUT(messages, QStringList{"There is no item."}, 10000);
-        ListPrompt::informHook = nullptr;
+        TavPrompt::informHook = nullptr;
         QCOMPARE(VLCComponent::playerState, int(VLCComponent::Stopped));
         QTRY_VERIFY(m_window->findChild<QWidget*>("WaitPlayLogo")->isVisible());
         QTest::keyClick(m_window, Qt::Key_Space); // input is taken again: Space plays

@@ -13,7 +13,7 @@
     </message>
   </context>
   <context>
-    <name>ListPrompt</name>
+    <name>TavPrompt</name>
     <message>
       <source>Warning</source>
       <translation>경고</translation>

@@ -7,10 +7,10 @@
 
 class QWidget;
 
-// Every modal question and dialog of the recording views goes through here, so that a test
-// can answer them instead of a user. With no hook set the user sees the ordinary Qt boxes
-// and file dialogs.
-class ListPrompt {
+// Every modal message, question and file dialog of the program goes through here, so that
+// they all wear the program's dark look (one style sheet, built from the description
+// "TavPrompt") and so that a test can answer them instead of a user.
+class TavPrompt {
 public:
     // A message box with the text alone and an OK button.
     static void inform(QWidget* parent, const QString& text);
@@ -21,6 +21,10 @@ public:
                                  const QString& filter);
     // One folder; empty when cancelled.
     static QString openFolder(QWidget* parent, const QString& caption);
+
+    // The style sheet of the program's message boxes and dialogs, read from the description
+    // anew each time (empty when the description is missing: Qt's own look then).
+    static QString styleSheet();
 
     // Set by tests. Each hook, when set, replaces the corresponding dialog.
     static std::function<void(const QString& text)> informHook;

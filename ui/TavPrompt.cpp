@@ -1,0 +1,145 @@
+#include "TavPrompt.h"
+
+#include "UiDescription.h"
+
+#include <QAbstractButton>
+#include <QCoreApplication>
+#include <QDialogButtonBox>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QStyle>
+
+std::function<void(const QString&)> TavPrompt::informHook;
+std::function<bool(const QString&)> TavPrompt::askHook;
+std::function<QStringList()> TavPrompt::openFilesHook;
+std::function<QString()> TavPrompt::openFolderHook;
+
+namespace {
+
+// A state's colour, or the Default one where the description leaves the state out.
+QString stateColour(const UiItem::StateStrings& states, UiItem::State state) {
+    const QString& value = states[state];
+    return value.isEmpty() || value == QLatin1String("none") ? states[UiItem::Default] : value;
+}
+
+// A box's window with its text and buttons, and whatever a file dialog adds (lists, fields,
+// tool buttons), all in the colours of the description's three entries.
+QString composeStyleSheet(const UiDescription& ui) {
+    const UiItem box = ui.item(QStringLiteral("box"));
+    const UiItem button = ui.item(QStringLiteral("button"));
+    const UiItem field = ui.item(QStringLiteral("field"));
+    if (!box.usable())
+        return QString();
+    const QString font = QStringLiteral("font-family: \"%1\"; font-size: %2px;")
+                             .arg(box.font.family())
+                             .arg(box.font.pixelSize() > 0 ? box.font.pixelSize() : 13);
+    // The sheet is set on each dialog, so plain type selectors reach only its own children.
+    QString sheet = QStringLiteral("QDialog{background: %1; border: 1px solid %2;} "
+                                   "QLabel, QCheckBox{color: %3; background: "
+                                   "transparent; %4} ")
+                        .arg(box.color[UiItem::Default], box.border[UiItem::Default],
+                             box.textColor[UiItem::Default], font);
+    if (button.usable()) {
+        // The default button (the one Enter presses) is outlined in the Normal border.
+        const std::pair<const char*, UiItem::State> states[] = {{"", UiItem::Default},
+                                                                {":default", UiItem::Normal},
+                                                                {":hover", UiItem::Hover},
+                                                                {":pressed", UiItem::Select},
+                                                                {":disabled", UiItem::Disable}};
+        for (const auto& [pseudo, state] : states) {
+            sheet +=
+                QStringLiteral("QPushButton%1{background: %2; color: %3; border: "
+                               "1px solid %4;")
+                    .arg(QLatin1String(pseudo), stateColour(button.color, state),
+                         stateColour(button.textColor, state), stateColour(button.border, state));
+            if (state == UiItem::Default)
+                sheet += QStringLiteral(" border-radius: 4px; padding: 5px 18px; min-width: "
+                                        "64px; %1")
+                             .arg(font);
+            sheet += QStringLiteral("} ");
+        }
+        sheet += QStringLiteral("QToolButton{background: transparent; border: none; "
+                                "padding: 3px;} QToolButton:hover{background: %1;} ")
+                     .arg(stateColour(button.color, UiItem::Hover));
+    }
+    if (field.usable()) {
+        sheet += QStringLiteral("QLineEdit, QComboBox, QListView, "
+                                "QTreeView{background: %1; color: %2; border: 1px solid %3; "
+                                "selection-background-color: %4; selection-color: %5; %6} "
+                                "QHeaderView::section{background: %1; color: %2; border: none; "
+                                "padding: 3px;} "
+                                "QComboBox QAbstractItemView{background: %1; color: %2;} ")
+                     .arg(field.color[UiItem::Default], field.textColor[UiItem::Default],
+                          field.border[UiItem::Default], stateColour(field.color, UiItem::Select),
+                          stateColour(field.textColor, UiItem::Select), font);
+    }
+    return sheet;
+}
+
+// Gives a dialog the program's sheet. Under a parent that has a sheet of its own, Qt keeps the
+// look the dialog's children were given when they were made; they are polished again so
+// that the new sheet reaches them.
+// The platform's pictures on the dialog buttons are drawn for light boxes; they go too.
+void dress(QWidget& dialog) {
+    dialog.setStyleSheet(TavPrompt::styleSheet());
+    for (QWidget* child : dialog.findChildren<QWidget*>()) {
+        child->style()->unpolish(child);
+        child->style()->polish(child);
+    }
+    for (QDialogButtonBox* buttons : dialog.findChildren<QDialogButtonBox*>()) {
+        for (QAbstractButton* button : buttons->buttons())
+            button->setIcon(QIcon());
+    }
+}
+
+} // namespace
+
+QString TavPrompt::styleSheet() {
+    UiDescription ui;
+    ui.open(QStringLiteral("TavPrompt"));
+    return composeStyleSheet(ui);
+}
+
+void TavPrompt::inform(QWidget* parent, const QString& text) {
+    if (informHook) {
+        informHook(text);
+        return;
+    }
+    QMessageBox box(QMessageBox::NoIcon, QString(), text, QMessageBox::Ok, parent);
+    box.setObjectName(QStringLiteral("tavMessage"));
+    dress(box);
+    box.exec();
+}
+
+bool TavPrompt::ask(QWidget* parent, const QString& text) {
+    if (askHook)
+        return askHook(text);
+    const QString title = QCoreApplication::translate("TavPrompt", "Warning");
+    // No question-mark picture: the platform's is drawn for light boxes.
+    QMessageBox box(QMessageBox::NoIcon, title, text, QMessageBox::Yes | QMessageBox::No, parent);
+    box.setObjectName(QStringLiteral("tavQuestion"));
+    box.setDefaultButton(QMessageBox::No);
+    dress(box);
+    return box.exec() == QMessageBox::Yes;
+}
+
+QStringList TavPrompt::openFiles(QWidget* parent, const QString& caption, const QString& folder,
+                                 const QString& filter) {
+    if (openFilesHook)
+        return openFilesHook();
+    // Where the system has its own file dialog it is used as it is; Qt's own takes the sheet.
+    QFileDialog dialog(parent, caption, folder, filter);
+    dialog.setFileMode(QFileDialog::ExistingFiles);
+    dress(dialog);
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles() : QStringList();
+}
+
+QString TavPrompt::openFolder(QWidget* parent, const QString& caption) {
+    if (openFolderHook)
+        return openFolderHook();
+    QFileDialog dialog(parent, caption);
+    dialog.setFileMode(QFileDialog::Directory);
+    dialog.setOption(QFileDialog::ShowDirsOnly);
+    dress(dialog);
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+}
