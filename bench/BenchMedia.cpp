@@ -6,21 +6,30 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
-bool BenchMedia::prepare() {
+#include <cstdio>
+
+bool BenchMedia::prepare(const QString& set) {
     QProcess process;
     process.setProcessChannelMode(QProcess::ForwardedChannels);
-    process.start(QStringLiteral(PYTHON3),
-                  {QStringLiteral(MAKE_RECORDINGS), QStringLiteral("bench"), folder()});
-    return process.waitForFinished(-1) && process.exitStatus() == QProcess::NormalExit &&
-           process.exitCode() == 0;
+    process.start(QStringLiteral(PYTHON3), {QStringLiteral(MAKE_RECORDINGS), set, folder(set)});
+    const bool made = process.waitForFinished(-1) && process.exitStatus() == QProcess::NormalExit &&
+                      process.exitCode() == 0;
+    if (!made)
+        std::fprintf(stderr, "could not make the %s recordings in %s\n", qPrintable(set),
+                     qPrintable(folder(set)));
+    return made;
 }
 
-QString BenchMedia::folder() {
-    return QStringLiteral(BENCH_MEDIA);
+QString BenchMedia::folder(const QString& set) {
+    return QStringLiteral(BENCH_MEDIA) + '/' + set;
+}
+
+QString BenchMedia::scratchFolder(const QString& name) {
+    return QStringLiteral(BENCH_MEDIA) + '/' + name;
 }
 
 QStringList BenchMedia::lengthRecordings() {
-    const QDir dir(folder() + "/lengths");
+    const QDir dir(folder(QStringLiteral("bench")) + "/lengths");
     QStringList paths;
     for (const QString& name : dir.entryList({"*.mp4"}, QDir::Files, QDir::Name))
         paths << dir.filePath(name);
@@ -28,7 +37,7 @@ QStringList BenchMedia::lengthRecordings() {
 }
 
 QString BenchMedia::driveRecording() {
-    return folder() + "/20240612_100000_INF_1.mp4";
+    return folder(QStringLiteral("bench")) + "/20240612_100000_INF_1.mp4";
 }
 
 bool BenchMedia::runQuietly(const QString& program, const QStringList& arguments) {

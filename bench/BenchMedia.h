@@ -5,8 +5,9 @@
 
 #include <chrono>
 
-// The benchmark recordings, made once into the build tree, and the external programs the
-// benchmarks compare with.
+// The benchmark recordings, made into the build tree on first use, and the external programs
+// the benchmarks compare with. Every set has a folder of its own under the benchmarks' media
+// folder, so the benchmarks may run in any order and each makes only what it reads.
 class BenchMedia {
 public:
     using Clock = std::chrono::steady_clock;
@@ -15,13 +16,17 @@ public:
         return std::chrono::duration<double, std::milli>(Clock::now() - start).count();
     }
 
-    // Makes the recordings when they are missing or out of date; false when that failed.
-    static bool prepare();
+    // Makes a set of tools/make_recordings.py into its folder when it is missing or out of
+    // date; false when that failed.
+    static bool prepare(const QString& set);
+    // The folder of a set.
+    static QString folder(const QString& set);
+    // A folder of the benchmarks' own making (not a set of make_recordings.py).
+    static QString scratchFolder(const QString& name);
 
-    static QString folder();
-    // The copies for the length benchmark, in name order.
+    // The copies for the length benchmark, in name order ("bench" set).
     static QStringList lengthRecordings();
-    // The three-minute drive with 10 Hz telemetry.
+    // The three-minute drive with 10 Hz telemetry ("bench" set).
     static QString driveRecording();
 
     // Runs a program to its end with its output discarded; false unless it exits with 0.

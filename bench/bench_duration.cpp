@@ -96,7 +96,7 @@ BENCHMARK(FfprobePerFile)->Unit(benchmark::kMillisecond)->Iterations(1);
 int main(int argc, char** argv) {
     QCoreApplication app(argc, argv);
     benchmark::Initialize(&argc, argv);
-    if (!BenchMedia::prepare())
+    if (!BenchMedia::prepare(QStringLiteral("bench")))
         return 1;
     BenchMedia::useScratchDataFolder();
     recordings = BenchMedia::lengthRecordings();

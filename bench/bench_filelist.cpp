@@ -104,12 +104,12 @@ int main(int argc, char** argv) {
     if (qEnvironmentVariableIsEmpty("DISPLAY"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);
-    if (!BenchMedia::prepare())
+    if (!BenchMedia::prepare(QStringLiteral("bench")))
         return 1;
     BenchMedia::useScratchDataFolder();
     const QStringList sources = BenchMedia::lengthRecordings();
-    const QString names = BenchMedia::folder() + "/filelist/names";
-    const QString lengths = BenchMedia::folder() + "/filelist/lengths";
+    const QString names = BenchMedia::scratchFolder(QStringLiteral("filelist/names"));
+    const QString lengths = BenchMedia::scratchFolder(QStringLiteral("filelist/lengths"));
     if (sources.isEmpty() || !makeFolder(names, channelFileNames(), QString()) ||
         !makeFolder(lengths, frontFileNames(), sources.first())) {
         std::fprintf(stderr, "bench_filelist: cannot make the recordings\n");

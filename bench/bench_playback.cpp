@@ -11,7 +11,7 @@
 //      its offset from the front camera a second later, and the memory the flips leave
 //      behind against the same time of playing without flips.
 // Run under a virtual X server: xvfb-run -a -s "-screen 0 1600x900x24" ./bench_playback
-#include "AppGlobals.h"
+#include "BenchMedia.h"
 #include "PlayerInterface.h"
 #include "VLCComponent.h"
 
@@ -21,9 +21,7 @@
 #include <QFile>
 #include <QGuiApplication>
 #include <QImage>
-#include <QProcess>
 #include <QScreen>
-#include <QTemporaryDir>
 #include <QTimer>
 #include <QWidget>
 
@@ -252,18 +250,10 @@ struct PlainPlayers {
 
 int main(int argc, char** argv) {
     QApplication app(argc, argv);
-    QTemporaryDir data;
-    AppGlobals::dataFolder = data.path();
-    g_media = QStringLiteral(BENCH_MEDIA) + "/sync";
-    {
-        QProcess maker;
-        maker.setProcessChannelMode(QProcess::ForwardedChannels);
-        maker.start(QStringLiteral(PYTHON3), {QStringLiteral(MAKE_RECORDINGS), "sync", g_media});
-        if (!maker.waitForFinished(-1) || maker.exitCode() != 0) {
-            std::fprintf(stderr, "could not make the recordings\n");
-            return 1;
-        }
-    }
+    BenchMedia::useScratchDataFolder();
+    if (!BenchMedia::prepare(QStringLiteral("sync")))
+        return 1;
+    g_media = BenchMedia::folder(QStringLiteral("sync"));
     Scenes scenes;
     wait(300);
 

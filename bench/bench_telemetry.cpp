@@ -59,7 +59,7 @@ BENCHMARK(FfmpegExtractTrack)->Unit(benchmark::kMillisecond)->Iterations(10);
 int main(int argc, char** argv) {
     QCoreApplication app(argc, argv);
     benchmark::Initialize(&argc, argv);
-    if (!BenchMedia::prepare())
+    if (!BenchMedia::prepare(QStringLiteral("bench")))
         return 1;
     BenchMedia::useScratchDataFolder();
     drive = BenchMedia::driveRecording();
