@@ -160,6 +160,12 @@ void printOffsets(const char* who, const Offsets& offsets) {
     std::printf(
         "  %-28s median %6.1f ms  max %6.1f ms  (%zu samples, %d unreadable)  CPU %5.1f %%\n", who,
         median(offsets.ms), worst, offsets.ms.size(), offsets.unreadable, offsets.cpuPercent);
+    // How many samples were 0, 1, 2 and 3 or more frames apart.
+    int apart[4] = {0, 0, 0, 0};
+    for (double ms : offsets.ms)
+        ++apart[std::min(3, int(ms * kFps / 1000.0 + 0.5))];
+    std::printf("  %-28s frames apart: 0 in %d, 1 in %d, 2 in %d, 3 or more in %d samples\n", "",
+                apart[0], apart[1], apart[2], apart[3]);
 }
 
 // ---- The coordinator ----

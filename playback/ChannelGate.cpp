@@ -121,11 +121,12 @@ void ChannelGate::onBuffering(const libvlc_event_t* event, void* data) {
     const float level = event->u.media_player_buffering.new_cache;
     // A level of 100 counts only after a lower one: a full buffer reported before the seek
     // that armed the channel says nothing about the buffer after it.
+    // A lower level after a full one is a new buffering (a seek that followed the start):
+    // the channel waits for that one too.
     if (level < 100.0f) {
-        int armed = Armed;
-        if (!channel->phase.compare_exchange_strong(armed, Filling)) {
-            int full = Full;
-            channel->phase.compare_exchange_strong(full, Filling);
+        for (int from : {int(Armed), int(Full), int(Ready)}) {
+            if (channel->phase.compare_exchange_strong(from, Filling))
+                break;
         }
         return;
     }

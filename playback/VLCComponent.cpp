@@ -403,8 +403,12 @@ void VLCComponent::SetFlip(int channel, bool mirrored) {
         for (int i = 0; i < used; ++i)
             libvlc_media_player_set_pause(player(i), 1);
     }
+    // Playing, the new player is moved to the others' time by a seek as they are, not by a
+    // start time: libvlc anchors a seek's clock with the frames it decodes before the target
+    // and a start time's without them, which left the new camera up to a second of frames
+    // off the others (measured: 0 to 200 ms).
     if (replacePlayer(channel, mirrored) == nullptr ||
-        !m_channels.reopen(channel, start, running, window)) {
+        !m_channels.reopen(channel, running ? 0 : start, running, window)) {
         logWarning("[VLCComponent]: libvlc cannot mirror pictures");
         if (running)
             m_gate->release(used);
@@ -418,10 +422,8 @@ void VLCComponent::SetFlip(int channel, bool mirrored) {
         m_gate->arm(seekableChannels() | (1 << channel));
         libvlc_media_player_play(player(channel));
         libvlc_media_player_set_rate(player(channel), m_rate);
-        for (int i = 0; i < used; ++i) {
-            if (i != channel)
-                VlcCompat::setTime(player(i), start, false);
-        }
+        for (int i = 0; i < used; ++i)
+            VlcCompat::setTime(player(i), start, false);
         m_gate->release(used);
         return;
     }
