@@ -1,12 +1,12 @@
 #include "FileListLoader.h"
 
 #include "CameraCountDelegate.h"
-#include "TavPrompt.h"
 #include "PlayerInterface.h"
 #include "RecordingBatch.h"
 #include "RecordingName.h"
 #include "StatusLog.h"
 #include "TavFileListItem.h"
+#include "TavPrompt.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -81,9 +81,8 @@ void FileListLoader::load(const QStringList& paths, const QSet<QString>& listedF
             replaceWith(batch);
         if (rejected) {
             logInfo("[TavFileListItem]: Unsupported Files.");
-            TavPrompt::inform(
-                &m_list,
-                TavFileListItem::tr("Item format is different with our service supproted!"));
+            TavPrompt::inform(&m_list, TavFileListItem::tr(
+                                           "Item format is different with our service supproted!"));
             m_list.scheduleThumbnails();
             return;
         }

@@ -1,10 +1,10 @@
 #include "FileListRemover.h"
 
 #include "ItemInfoThread.h"
-#include "TavPrompt.h"
 #include "PlayerInterface.h"
 #include "StatusLog.h"
 #include "TavFileListItem.h"
+#include "TavPrompt.h"
 
 #include <QDir>
 #include <QFile>
@@ -83,7 +83,7 @@ void FileListRemover::removeRows(QList<int> rows, bool fromDisk) {
     m_list.onRenumber();
     if (keptLoading)
         TavPrompt::inform(&m_list,
-                           TavFileListItem::tr("This File is loading now.. Please try later"));
+                          TavFileListItem::tr("This File is loading now.. Please try later"));
     if (!left.isEmpty())
         reportFilesLeft(left);
 }
@@ -112,5 +112,5 @@ void FileListRemover::reportFilesLeft(QStringList files) {
         lines << TavFileListItem::tr("and %1 more").arg(files.size() - kNamedFailures);
     //: %1: the files, one per line.
     TavPrompt::inform(&m_list, TavFileListItem::tr("These files could not be deleted:\n%1")
-                                    .arg(lines.join(QLatin1Char('\n'))));
+                                   .arg(lines.join(QLatin1Char('\n'))));
 }

@@ -5,10 +5,10 @@
 #include "FileListRemover.h"
 #include "ItemInfoThread.h"
 #include "LengthReading.h"
-#include "TavPrompt.h"
 #include "PlayerInterface.h"
 #include "RecordingName.h"
 #include "StatusLog.h"
+#include "TavPrompt.h"
 #include "TypeIconDelegate.h"
 #include "UiApplier.h"
 #include "UiDescription.h"
@@ -144,7 +144,7 @@ void TavFileListItem::loadPaths(const QStringList& paths) {
 void TavFileListItem::recvReqFileOpen() {
     logDebug("TavFileListItem::recvReqFileOpen");
     const QStringList paths = TavPrompt::openFiles(this, tr("Open file"), QStringLiteral("./"),
-                                                    tr("Movie file (*.avi *.mp4)"));
+                                                   tr("Movie file (*.avi *.mp4)"));
     // A cancelled dialog is not an empty load: nothing to tell the user.
     if (!paths.isEmpty())
         onLoadItem(paths);

@@ -4,9 +4,9 @@
 #include "AppGlobals.h"
 #include "CameraCountDelegate.h"
 #include "ItemInfoThread.h"
-#include "TavPrompt.h"
 #include "PlayerInterface.h"
 #include "TavFileListItem.h"
+#include "TavPrompt.h"
 
 #include <QAction>
 #include <QFile>

@@ -3,12 +3,12 @@
 // its own scene; the end of a recording moves to the next row the type filter shows; the
 // playing row is deleted.
 #include "AppGlobals.h"
-#include "TavPrompt.h"
 #include "MainWindow.h"
 #include "PlayScreenWindow.h"
 #include "PlayerInterface.h"
 #include "SubPlayerWindow.h"
 #include "TavFileListItem.h"
+#include "TavPrompt.h"
 #include "TopBar.h"
 #include "VLCComponent.h"
 
