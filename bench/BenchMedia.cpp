@@ -20,11 +20,7 @@ bool BenchMedia::prepare(const QString& set) {
     return made;
 }
 
-QString BenchMedia::folder(const QString& set) {
-    return QStringLiteral(BENCH_MEDIA) + '/' + set;
-}
-
-QString BenchMedia::scratchFolder(const QString& name) {
+QString BenchMedia::folder(const QString& name) {
     return QStringLiteral(BENCH_MEDIA) + '/' + name;
 }
 

@@ -19,10 +19,8 @@ public:
     // Makes a set of tools/make_recordings.py into its folder when it is missing or out of
     // date; false when that failed.
     static bool prepare(const QString& set);
-    // The folder of a set.
-    static QString folder(const QString& set);
-    // A folder of the benchmarks' own making (not a set of make_recordings.py).
-    static QString scratchFolder(const QString& name);
+    // The folder of a set, or of files a benchmark makes itself.
+    static QString folder(const QString& name);
 
     // The copies for the length benchmark, in name order ("bench" set).
     static QStringList lengthRecordings();

@@ -108,8 +108,8 @@ int main(int argc, char** argv) {
         return 1;
     BenchMedia::useScratchDataFolder();
     const QStringList sources = BenchMedia::lengthRecordings();
-    const QString names = BenchMedia::scratchFolder(QStringLiteral("filelist/names"));
-    const QString lengths = BenchMedia::scratchFolder(QStringLiteral("filelist/lengths"));
+    const QString names = BenchMedia::folder(QStringLiteral("filelist/names"));
+    const QString lengths = BenchMedia::folder(QStringLiteral("filelist/lengths"));
     if (sources.isEmpty() || !makeFolder(names, channelFileNames(), QString()) ||
         !makeFolder(lengths, frontFileNames(), sources.first())) {
         std::fprintf(stderr, "bench_filelist: cannot make the recordings\n");

@@ -55,10 +55,10 @@ void ChannelGate::unwatch(int channel, libvlc_media_player_t* player) {
 }
 
 void ChannelGate::arm(int mask) {
-    for (int i = 0; i < kMaxChannels; ++i) {
-        if (mask & (1 << i))
-            m_channels[i].phase = Armed;
-    }
+    // A channel left out (one the next recording does not use, or a player at its end) is
+    // not waited for, whatever an earlier arm left it at.
+    for (int i = 0; i < kMaxChannels; ++i)
+        m_channels[i].phase = (mask & (1 << i)) ? Armed : Idle;
 }
 
 bool ChannelGate::ready() const {

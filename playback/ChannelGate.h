@@ -36,7 +36,8 @@ public:
     // No further buffering report this long after a full buffer: the buffering is over.
     static constexpr int kQuietMs = 50;
 
-    // players: the engine's player array, read whenever the gate lets the players go.
+    // players: the engine's player array, read whenever the gate looks at or lets go the
+    // players.
     explicit ChannelGate(libvlc_media_player_t* const* players, QObject* parent = nullptr);
     ~ChannelGate() override;
 
@@ -45,7 +46,8 @@ public:
     void watch(int channel, libvlc_media_player_t* player);
     void unwatch(int channel, libvlc_media_player_t* player);
 
-    // The channels of mask (bit i for channel i) must buffer anew before they may run.
+    // The channels of mask (bit i for channel i) must buffer anew before they may run; the
+    // others are not waited for.
     void arm(int mask);
     // Lets the first count players run together as soon as every armed channel has buffered:
     // at once when they all have.
@@ -78,7 +80,8 @@ private:
     libvlc_media_player_t* const* m_players;
     Channel m_channels[kMaxChannels];
     QTimer* m_limit;
-    // Looks again at channels whose buffer is full while a release waits.
+    // Looks again, while a release waits, at channels whose buffer is full (their quiet spell)
+    // and at players that failed or ended (they report nothing more).
     QTimer* m_quiet;
     int m_pendingCount = 0;
 };

@@ -29,14 +29,13 @@ public:
     libvlc_media_player_t* const* players() const { return m_players; }
     libvlc_instance_t* instance() const { return m_instance; }
     bool isMirrored(int channel) const { return m_mirrored[channel]; }
-    bool isSplit() const { return m_split; }
 
     // Gives the players the recording at path: one file per channel (split: the files of the
     // recording found beside path, packed into players 0, 1, ... in channel order) or one file
     // whose video tracks are the channels. Every player starts paused (startPaused) so that
     // the channels can be let go together. windows: the scene windows of the channels.
-    // Returns the number of channels given a media, or -1 when the front channel's file could
-    // not be given to its player (the caller's count stands then).
+    // Returns the number of channels given a media, or -1 when the first file found could
+    // not be given to player 0 (the caller's count stands then).
     int open(const char* path, bool split, int count, const uintptr_t* windows, bool startPaused);
 
     // Gives a channel's player the channel's media again, starting at startMs.

@@ -95,6 +95,12 @@ void PausedJoin::check() {
     }
     if (++m_ticks > kTicks) {
         logWarning("[PausedJoin]: players 0x%x showed no picture after a flip", m_joining);
+        // They rest where they are: a player left running under a paused recording would
+        // play on, and the front one into the next recording.
+        for (int i = 0; i < 3; ++i) {
+            if (m_joining & (1 << i))
+                libvlc_media_player_set_pause(m_channels.player(i), 1);
+        }
         cancel();
         emit allResting();
         return;

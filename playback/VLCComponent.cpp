@@ -109,7 +109,6 @@ void VLCComponent::SetFile(char* path, int count, double totalTime) {
         if (m_channels.isMirrored(i))
             replacePlayer(i, false);
     }
-    m_filePath = QByteArray(path);
     m_totalTime = totalTime;
     channelCount = count;
     stopReason = StopGoNext;
@@ -254,22 +253,32 @@ void VLCComponent::Stop(int reason) {
     VlcCompat::stopAsync(player(0));
 }
 
+bool VLCComponent::playersRun() const {
+    // Starting (the gate may have let them go before the first picture) or playing.
+    return playerState == Playing || playerState == FileSet || m_gate->releasePending();
+}
+
+void VLCComponent::holdPlayers() {
+    m_gate->hold();
+    for (int i = 0; i < usedChannels(); ++i)
+        libvlc_media_player_set_pause(player(i), 1);
+}
+
 void VLCComponent::seekTogether(int64_t ms) {
     resetDriftEstimates();
-    const int used = usedChannels();
     // Players that run now (or are about to) run on after the move; paused ones stay paused
     // and go together when the recording is resumed.
-    const bool run = playerState == Playing || m_gate->releasePending();
-    m_gate->hold();
-    if (run) {
-        for (int i = 0; i < used; ++i)
-            libvlc_media_player_set_pause(player(i), 1);
-    }
+    const bool run = playersRun();
+    if (run)
+        holdPlayers();
+    else
+        m_gate->hold();
     m_gate->arm(seekableChannels());
-    for (int i = 0; i < used; ++i)
+    // Precise seeks: a fast one lands each file on its own key frame.
+    for (int i = 0; i < usedChannels(); ++i)
         VlcCompat::setTime(player(i), ms, false);
     if (run)
-        m_gate->release(used);
+        m_gate->release(usedChannels());
 }
 
 void VLCComponent::Seek(int ms) {
@@ -320,24 +329,15 @@ void VLCComponent::NextFrame() {
 
 void VLCComponent::SetSpeed(double rate) {
     logDebug("VLCComponent::SetSpeed");
-    const int used = usedChannels();
-    const bool run = playerState == Playing || m_gate->releasePending();
-    m_gate->hold();
-    for (int i = 0; i < used; ++i)
-        libvlc_media_player_set_pause(player(i), 1);
     m_rate = float(rate);
-    resetDriftEstimates();
-    for (int i = 0; i < used; ++i)
+    for (int i = 0; i < usedChannels(); ++i)
         libvlc_media_player_set_rate(player(i), m_rate);
-    // One second back, so that nothing is missed at the new speed; every channel moves, so
-    // that they set off together at the new speed.
+    // One second back, so that nothing is missed at the new speed. Every channel moves, so
+    // that they set off together at the new speed (a rate taken by each player at its own
+    // moment would leave them apart).
     const double t = double(libvlc_media_player_get_time(player(0)));
     const double target = (t - 0.5 < 0) ? 0 : t - 1000;
-    m_gate->arm(seekableChannels());
-    for (int i = 0; i < used; ++i)
-        VlcCompat::setTime(player(i), int64_t(target), true);
-    if (run)
-        m_gate->release(used);
+    seekTogether(int64_t(target));
 }
 
 void VLCComponent::SetVolume(int volume) {
@@ -396,13 +396,10 @@ void VLCComponent::SetFlip(int channel, bool mirrored) {
     const int64_t start = std::max<libvlc_time_t>(libvlc_media_player_get_time(player(0)), 0);
     const uintptr_t window =
         videoWidgets[channel] != nullptr ? videoWidgets[channel]->winId() : uintptr_t(0);
-    if (running) {
-        // The others wait at the front camera's time while the new player fills its buffer;
-        // then all of them go on together.
-        m_gate->hold();
-        for (int i = 0; i < used; ++i)
-            libvlc_media_player_set_pause(player(i), 1);
-    }
+    // The others wait at the front camera's time while the new player fills its buffer;
+    // then all of them go on together.
+    if (running)
+        holdPlayers();
     // Playing, the new player is moved to the others' time by a seek as they are, not by a
     // start time: libvlc anchors a seek's clock with the frames it decodes before the target
     // and a start time's without them, which left the new camera up to a second of frames
@@ -460,7 +457,8 @@ void VLCComponent::afterFlip() {
     if (!m_flipped)
         return;
     m_flipped = false;
-    // The replaced players are gone by now; their decoders' memory goes back to the system.
+    // The replaced player is released in the background; what it has freed by now goes
+    // back to the system (the rest with the next flip or recording).
     platform::returnFreedMemory();
 }
 

@@ -4,7 +4,6 @@
 #include "DriftEstimator.h"
 #include <QObject>
 
-#include <QImage>
 #include <QSize>
 
 #include <vlc/vlc.h>
@@ -139,6 +138,10 @@ private:
     // Every used channel to ms together: paused, moved, let go on one tick once all have
     // buffered (unless the recording is paused, when they stay paused).
     void seekTogether(int64_t ms);
+    // Whether the players run now or are about to (a start the gate still holds).
+    bool playersRun() const;
+    // Cancels a waiting release and pauses every used player.
+    void holdPlayers();
     bool stoppingOrStopped() const;
     void resetDriftEstimates();
 
@@ -146,7 +149,6 @@ private:
     ChannelGate* m_gate;
     PausedJoin* m_join;
     double m_totalTime = 0;
-    QByteArray m_filePath;
     bool m_splitChannelFiles = false;
     QTimer* m_syncTimer;
     // Set when the channels may have left their step while paused (frame steps, a camera

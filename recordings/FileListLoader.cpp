@@ -67,27 +67,26 @@ void FileListLoader::load(const QStringList& paths, const QSet<QString>& listedF
     bool rejected = false;
     const QVector<RecordingRecord> batch =
         RecordingBatch::fromPaths(paths, listedFolders, &rejected);
-    if (batch.size() == 1 && !rejected) {
-        // One recording, as one file or as its channel files together, is added to the list.
+    if (batch.size() == 1) {
+        // One recording, as one file or as its channel files together, is added to the list
+        // (whatever else the load held that is no recording).
         if (isListed(batch.first())) {
             logInfo("[TavFileListItem]: Some files were loaded already.");
             TavPrompt::inform(&m_list, TavFileListItem::tr("Item is exist!"));
             return;
         }
         append(batch.first());
-    } else {
+    } else if (!batch.isEmpty()) {
         // Nothing usable leaves the list as it was rather than empty.
-        if (!batch.isEmpty())
-            replaceWith(batch);
-        if (rejected) {
-            logInfo("[TavFileListItem]: Unsupported Files.");
-            TavPrompt::inform(&m_list, TavFileListItem::tr(
-                                           "Item format is different with our service supproted!"));
-            m_list.scheduleThumbnails();
-            return;
-        }
+        replaceWith(batch);
     }
     m_list.scheduleThumbnails();
+    if (rejected) {
+        logInfo("[TavFileListItem]: Unsupported Files.");
+        TavPrompt::inform(
+            &m_list, TavFileListItem::tr("Item format is different with our service supproted!"));
+        return;
+    }
     logInfo("[TavFileListItem]: Load File Complete.");
     emit m_list.onSendRefreshFilter();
 }

@@ -2,6 +2,7 @@
 
 #include "ItemInfoThread.h"
 #include "PlayerInterface.h"
+#include "RecordingBatch.h"
 #include "StatusLog.h"
 #include "TavFileListItem.h"
 #include "TavPrompt.h"
@@ -89,8 +90,14 @@ void FileListRemover::removeRows(QList<int> rows, bool fromDisk) {
 }
 
 QStringList FileListRemover::deleteFiles(const RecordingRecord& record) {
+    // What the player would open now, not only what was there when the row was made: a
+    // camera's file written or copied in later belongs to the recording too.
+    QStringList files = record.channelFiles;
+    for (const QString& file : RecordingBatch::filesOnDisk(record.filePath))
+        if (!files.contains(file))
+            files << file;
     QStringList left;
-    for (const QString& file : record.channelFiles) {
+    for (const QString& file : files) {
         // A file someone else removed meanwhile is gone as the user wanted.
         if (QFile::remove(file) || !QFileInfo::exists(file))
             continue;

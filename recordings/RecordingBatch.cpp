@@ -52,6 +52,18 @@ QString RecordingBatch::recordingKey(const QString& path) {
     return RecordingName::isChannelFile(path) ? path.left(path.size() - kChannelSuffixSize) : path;
 }
 
+QStringList RecordingBatch::filesOnDisk(const QString& path) {
+    if (!RecordingName::isChannelFile(path))
+        return QFileInfo(path).isFile() ? QStringList{path} : QStringList();
+    Recording recording;
+    addSiblingsOnDisk(recording, recordingKey(path));
+    QStringList files;
+    for (const QString& file : recording.channels)
+        if (!file.isEmpty())
+            files << file;
+    return files;
+}
+
 QString RecordingBatch::folderOf(const QString& path) {
     return path.left(std::max(path.lastIndexOf('/'), path.lastIndexOf('\\')) + 1);
 }

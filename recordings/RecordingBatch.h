@@ -29,4 +29,8 @@ public:
 
     // The folder of a path, with its final separator.
     static QString folderOf(const QString& path);
+
+    // The files of the recording at path as they are on disk now: every channel file of an
+    // MP4 channel recording, the file itself for any other recording.
+    static QStringList filesOnDisk(const QString& path);
 };

@@ -233,9 +233,15 @@ private slots:
         QCOMPARE(m_messages, (QStringList{kUnsupported, kUnsupported}));
         QCOMPARE(shownNames(list), (QStringList{"20240101_080000_INF", "20240101_080100_EVT"}));
         QCOMPARE(refresh.count(), 0);
+        // One recording beside a file that is none is added, as it would be alone.
+        const QString c = touch("20240101_080200_USR_1.mp4", "bad");
+        drop(list, {notes, c});
+        QCOMPARE(m_messages.size(), 3);
+        QCOMPARE(shownNames(list), (QStringList{"20240101_080000_INF", "20240101_080100_EVT",
+                                                "20240101_080200_USR"}));
         // Nothing usable in a batch leaves the list as it was.
         drop(list, {notes, upper});
-        QCOMPARE(list.rowCount(), 2);
+        QCOMPARE(list.rowCount(), 3);
         list.loadPaths({});
         QCOMPARE(m_messages.last(), kNoItem);
     }
@@ -365,13 +371,15 @@ private slots:
     }
 
     void deleteFromDiskTakesEveryFileAndNamesWhatIsLeft() {
-        const QStringList drive = channels("deleting", "20240612_090000_INF", {1, 2, 3});
+        QStringList drive = channels("deleting", "20240612_090000_INF", {1, 2});
         const QStringList parked = channels("deleting", "20240612_100000_PRK", {1, 2});
         const QStringList kept = channels("deleting", "20240612_110000_EVT", {1, 2});
         TavFileListItem list;
         list.loadPaths({m_dir.filePath("deleting")});
         list.show();
         QCOMPARE(list.rowCount(), 3);
+        // A camera's file copied in after the listing belongs to the recording too.
+        drive << touch("20240612_090000_INF_3.mp4", "deleting");
         // A file that cannot go: the parked rear camera's file has become a folder with
         // something in it since it was listed.
         QVERIFY(QFile::remove(parked.at(1)));

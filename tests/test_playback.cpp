@@ -316,6 +316,25 @@ private slots:
         m_player->onControlSpeed(2);
     }
 
+    // A recording stopped before its cameras were let go leaves nothing behind for the next:
+    // one with fewer cameras starts without waiting for a camera it does not have.
+    void stopWhileStartingThenFewerCameras() {
+        QByteArray path = kSplit.toUtf8();
+        engine()->IsSplitChannelFile(path.constData());
+        engine()->SetFile(path.data(), 3, 5000);
+        QCOMPARE(engine()->Play(), 0);
+        engine()->Stop(VLCComponent::StopPlain);
+        QTRY_COMPARE_WITH_TIMEOUT(VLCComponent::playerState, int(VLCComponent::Stopped), 10000);
+        QTest::qWait(50);
+
+        open(kGap);
+        QCOMPARE(engine()->GetChannelCount(), 2);
+        QFile log(AppGlobals::statusLogPath());
+        QVERIFY(log.open(QIODevice::ReadOnly));
+        QVERIFY2(!log.readAll().contains("channels not ready"),
+                 "the start waited for a camera the recording does not have");
+    }
+
     void playsToTheEndThenAsksForTheNext() {
         QSignalSpy next(m_player, &PlayerInterface::onSendPlayNextFile);
         open(kGap);
