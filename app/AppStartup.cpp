@@ -71,6 +71,8 @@ void AppStartup::readStoredValues() {
 }
 
 int AppStartup::run(int& argc, char** argv) {
+    // The map's web view shares its OpenGL contexts with the rest of the window.
+    QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
     QApplication app(argc, argv);
     QCoreApplication::setApplicationName("ZENTA DASHCAM");
     QCoreApplication::setOrganizationName("com.ZENTA_DASHCAM");

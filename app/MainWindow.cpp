@@ -2,8 +2,10 @@
 
 #include "AgreementView.h"
 #include "AppGlobals.h"
+#include "ChartView.h"
 #include "LanguageView.h"
 #include "LeftSideView.h"
+#include "MapView.h"
 #include "PlayControlView.h"
 #include "PlayScreenWindow.h"
 #include "PlayerInterface.h"
@@ -154,6 +156,10 @@ void MainWindow::setupUi() {
     m_central->addChild(m_fileListButton, "bFilelist", TavWidget::Style::Button);
     m_fileListButton->setCheckable(true);
     m_fileListButton->setFocusPolicy(Qt::NoFocus);
+    m_mapButton = new QPushButton(m_central);
+    m_central->addChild(m_mapButton, "bMap", TavWidget::Style::Button);
+    m_mapButton->setCheckable(true);
+    m_mapButton->setFocusPolicy(Qt::NoFocus);
 
     m_fileList = new TavFileListItem(m_central);
     m_central->addChild(m_fileList, "fileList", TavWidget::Style::None);
@@ -162,6 +168,8 @@ void MainWindow::setupUi() {
     m_typeList = new TavTypeList(m_central);
     m_central->addChild(m_typeList, "lFileType", TavWidget::Style::None);
     m_typeList->hide(); // a pop-up: shown from the combo
+    m_map = new MapView(m_central);
+    m_central->addChild(m_map, "MapView", TavWidget::Style::None);
 
     m_stack = new QStackedWidget(m_central);
     m_central->addChild(m_stack, "StackedWidget", TavWidget::Style::None);
@@ -188,6 +196,10 @@ void MainWindow::setupUi() {
     m_control = new PlayControlView(m_central);
     m_central->addChild(m_control, "ControlView", TavWidget::Style::None);
     m_control->setObjectName("ControlView");
+    // The chart fills the panel's place for it.
+    m_chart = new ChartView(m_control->chartArea());
+    m_chart->setGeometry(m_control->chartArea()->rect());
+    m_control->chartArea()->installEventFilter(this);
 
     m_player = new PlayerInterface(this);
     m_player->setMainScreen(m_playScreen->scene());
@@ -293,6 +305,7 @@ void MainWindow::connectViews() {
     }
     if (enabled("bFilelist"))
         connect(m_fileListButton, &QPushButton::clicked, this, &MainWindow::onRaiseFilelist);
+    connectTelemetryViews();
     connect(this, &MainWindow::onSendChangeLanguage, this, &MainWindow::onChangeTextByLanguage);
     if (enabled("ControlView"))
         connectControlView();
@@ -557,11 +570,33 @@ void MainWindow::onBlockEvent(bool block) {
 void MainWindow::onShowFilelist() {
     logDebug("MainWindow::onShowFilelist");
     m_fileListButton->setChecked(true);
+    m_mapButton->setChecked(false);
+    if (enabled("fileList"))
+        m_fileList->show();
+    if (enabled("cbfileState"))
+        m_fileCombo->show();
+    emit onSendMapShow(false);
+    if (enabled("fileList"))
+        m_fileList->raise();
+    m_map->lower();
 }
 
 void MainWindow::onRaiseFilelist() {
     logDebug("MainWindow::onRaiseFilelist");
     onShowFilelist();
+}
+
+void MainWindow::onRaiseMap() {
+    logDebug("MainWindow::onRaiseMap");
+    m_mapButton->setChecked(true);
+    m_fileListButton->setChecked(false);
+    if (enabled("fileList"))
+        m_fileList->hide();
+    if (enabled("cbfileState"))
+        m_fileCombo->hide();
+    emit onSendHideTypeList();
+    emit onSendMapShow(true);
+    m_map->raise();
 }
 
 void MainWindow::keyPressEvent(QKeyEvent* event) {
@@ -621,4 +656,31 @@ void MainWindow::removeDataFolderLeftovers() {
         if (dir.exists())
             dir.removeRecursively();
     }
+}
+
+// ---- Chart and map ----
+
+void MainWindow::connectTelemetryViews() {
+    if (enabled("MapView")) {
+        connect(this, &MainWindow::onSendMapShow, m_map, &MapView::onMapShow);
+        connect(m_player, &PlayerInterface::onSetTextData, m_map, &MapView::onLoadMap);
+        connect(m_player, &PlayerInterface::onTimeout_500ms, m_map, &MapView::onUpdateMap);
+        connect(m_player, &PlayerInterface::onSendClear, m_map, &MapView::onClearData);
+        connect(m_map, &MapView::onSendBlockKeyboardEvent, this, &MainWindow::onBlockKeyboardEvent);
+        if (enabled("bMap"))
+            connect(m_mapButton, &QPushButton::clicked, this, &MainWindow::onRaiseMap);
+    }
+    if (enabled("ControlView") && m_control->isEnabledChild("chartView")) {
+        connect(m_control, &PlayControlView::onSendLoadChart, m_chart, &ChartView::onloadChart);
+        connect(m_control, &PlayControlView::onSendUpdateChart, m_chart, &ChartView::onUpdateChart);
+        connect(m_control, &PlayControlView::onSendClear, m_chart, &ChartView::onClearData);
+        connect(m_chart, &ChartView::onSendSeek, m_control, &PlayControlView::onSeekTo);
+    }
+}
+
+bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
+    // The chart keeps the size of the panel's place for it.
+    if (watched == m_control->chartArea() && event->type() == QEvent::Resize)
+        m_chart->setGeometry(m_control->chartArea()->rect());
+    return QMainWindow::eventFilter(watched, event);
 }

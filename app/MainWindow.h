@@ -4,7 +4,9 @@
 #include <QRect>
 #include <QSize>
 
+class ChartView;
 class LeftSideView;
+class MapView;
 class PlayControlView;
 class PlayScreenWindow;
 class PlayerInterface;
@@ -51,6 +53,7 @@ signals:
     void onSendZoomReset();
     void onSendChangeLanguage();
     void onSendBlockEvent(bool block);
+    void onSendMapShow(bool show);
 
 public slots:
     void onAgreeDlgFinished(int result);
@@ -70,6 +73,8 @@ public slots:
     void restoreScenes();
     void onShowFilelist();
     void onRaiseFilelist();
+    // The side panel shows the map in place of the file list.
+    void onRaiseMap();
     void openLangaugeDlg();
     void onFinishedDlg();
     void onChangeTextByLanguage();
@@ -82,12 +87,14 @@ protected:
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
     void changeEvent(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void checkAgreement();
     void setupUi();
     void connectViews();
     void connectControlView();
+    void connectTelemetryViews();
     void makeShortcuts();
     void saveSettings();
     void removeDataFolderLeftovers();
@@ -102,6 +109,9 @@ private:
     QStackedWidget* m_stack = nullptr;
     WaitPlayLogo* m_logo = nullptr;
     QPushButton* m_fileListButton = nullptr;
+    QPushButton* m_mapButton = nullptr;
+    MapView* m_map = nullptr;
+    ChartView* m_chart = nullptr;
     TavFileListItem* m_fileList = nullptr;
     TavFileComboBox* m_fileCombo = nullptr;
     TavTypeList* m_typeList = nullptr;

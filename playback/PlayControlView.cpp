@@ -48,9 +48,11 @@ PlayControlView::PlayControlView(QWidget* parent)
       m_unit(new QPushButton(m_transport)), m_capture(new QPushButton(this)),
       m_delete(new QPushButton(this)), m_flip(new QPushButton(this)),
       m_sound(new QPushButton(this)), m_volumeBar(new TavVolumeProgressBar(this)),
-      m_sliderRow(new QWidget(this)), m_slider(new TavPlaySlider(m_sliderRow)),
-      m_playTime(new QLabel(this)), m_totalTime(new QLabel(this)) {
+      m_sliderRow(new QWidget(this)), m_chartArea(new QWidget(this)),
+      m_slider(new TavPlaySlider(m_sliderRow)), m_playTime(new QLabel(this)),
+      m_totalTime(new QLabel(this)) {
     addChild(m_sliderRow, "row2Widget", Style::Panel);
+    addChild(m_chartArea, "chartView", Style::None);
     addChild(m_slider, "playBar", Style::None);
     m_slider->setStyleSheet(TavPlaySlider::styleSheet(description().item("playBar")));
     addChild(m_playTime, "playTime", Style::Label);
@@ -435,6 +437,15 @@ void PlayControlView::onSliderReleased() {
     if (!isPlayingOrPaused())
         return;
     emit onChangePlayPosition(m_slider->value());
+}
+
+void PlayControlView::onSeekTo(int ms) {
+    logDebug("PlayControlView::onSeekTo");
+    if (!isPlayingOrPaused())
+        return;
+    m_slider->setValue(ms);
+    m_playTime->setText(timeText(ms));
+    emit onChangePlayPosition(ms);
 }
 
 void PlayControlView::onClearUi() {

@@ -28,6 +28,9 @@ public:
     int speedIndex() const { return m_speedIndex; }
     // The camera the main scene shows, which the flip button mirrors.
     void setFlipChannel(int channel) { m_flipChannel = channel; }
+    // The place in the panel for the G-sensor chart ("chartView"), which the main window
+    // puts there.
+    QWidget* chartArea() const { return m_chartArea; }
     bool isMuted() const { return m_muted; }
     bool isBlocked() const { return m_blocked; }
 
@@ -58,6 +61,9 @@ signals:
     void onSendOpenFile();
 
 public slots:
+    // Playback to a moment chosen elsewhere in the panel (the chart): the same route as a
+    // move of the slider.
+    void onSeekTo(int ms);
     void onClick_bPlay();
     void onClick_bStop();
     // Previous and next recording.
@@ -124,6 +130,7 @@ private:
     QPushButton* m_speeds[4];
     TavVolumeProgressBar* m_volumeBar;
     QWidget* m_sliderRow;
+    QWidget* m_chartArea;
     TavPlaySlider* m_slider;
     QLabel* m_playTime;
     QLabel* m_totalTime;

@@ -2,8 +2,10 @@
 // buttons and keys, children left out of a description, and a language switch that
 // re-reads the texts of the open views.
 #include "AppGlobals.h"
+#include "ChartView.h"
 #include "LanguageView.h"
 #include "MainWindow.h"
+#include "MapView.h"
 #include "TavShortcutTable.h"
 #include "TopBar.h"
 
@@ -15,6 +17,8 @@
 #include <QTemporaryDir>
 #include <QTranslator>
 #include <QtTest>
+
+#include "WebTestMain.h"
 
 class TestMainWindow : public QObject {
     Q_OBJECT
@@ -66,6 +70,26 @@ private slots:
             auto* button = column->findChild<QPushButton*>(absent);
             QVERIFY2(button == nullptr || (!button->isVisible() && !button->isEnabled()), absent);
         }
+    }
+
+    void mapButtonTakesTheListsPlace() {
+        auto* map = m_window->findChild<MapView*>();
+        auto* list = child<QWidget>("fileList");
+        QVERIFY(map && list && !map->isVisible() && list->isVisible());
+        QTest::mouseClick(child<QPushButton>("bMap"), Qt::LeftButton);
+        QVERIFY(map->isVisible() && !list->isVisible());
+        QVERIFY(!child<QWidget>("cbfileState")->isVisible());
+        QVERIFY(child<QPushButton>("bMap")->isChecked());
+        QVERIFY(!child<QPushButton>("bFilelist")->isChecked());
+        QTest::mouseClick(child<QPushButton>("bFilelist"), Qt::LeftButton);
+        QVERIFY(!map->isVisible() && list->isVisible());
+        QVERIFY(child<QWidget>("cbfileState")->isVisible());
+        // The chart fills the panel's place for it, and follows a resize.
+        auto* chart = m_window->findChild<ChartView*>();
+        QVERIFY(chart && chart->parentWidget()->objectName() == "chartView");
+        m_window->resize(1600, 900);
+        QTRY_COMPARE(chart->width(), chart->parentWidget()->width());
+        m_window->resize(1366, 768);
     }
 
     void childrenFollowAResize() {
@@ -159,5 +183,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(TestMainWindow)
+TAVORIC_WEB_TEST_MAIN(TestMainWindow)
 #include "test_mainwindow.moc"

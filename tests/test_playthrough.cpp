@@ -22,6 +22,8 @@
 #include <QTranslator>
 #include <QtTest>
 
+#include "WebTestMain.h"
+
 namespace {
 const QString kMedia = QStringLiteral(PLAYBACK_MEDIA);
 
@@ -325,5 +327,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(TestPlaythrough)
+TAVORIC_WEB_TEST_MAIN(TestPlaythrough)
 #include "test_playthrough.moc"

@@ -5,6 +5,7 @@
 # its figures beside the baseline it measured in the same run.
 set -euo pipefail
 source "$(dirname "${BASH_SOURCE[0]}")/setup.sh"
+tavoric_web_environment
 
 names=("$@")
 ((${#names[@]})) || names=(duration telemetry filelist playback)

@@ -3,6 +3,7 @@
 # any it opens the demo recordings, made into build/demo the first time.
 set -euo pipefail
 source "$(dirname "${BASH_SOURCE[0]}")/setup.sh"
+tavoric_web_environment
 
 if (($# == 0)); then
     python3 "$TAVORIC_ROOT/tools/make_recordings.py" demo "$TAVORIC_BUILD/demo"

@@ -13,6 +13,7 @@ TAVORIC_PACKAGES=(
     libvlc-dev vlc-plugin-base vlc-plugin-video-output
     rapidjson-dev libavformat-dev libavcodec-dev libavutil-dev ffmpeg
     libssl-dev dosfstools mtools
+    qtwebengine5-dev libjs-leaflet chromium
     xvfb xauth x11-apps imagemagick xdotool
     libbenchmark-dev g++-mingw-w64-x86-64
     fonts-noto-core fonts-noto-cjk
@@ -20,6 +21,9 @@ TAVORIC_PACKAGES=(
 
 tavoric_install_packages() {
     local missing=()
+    # The map page's browser test runs on Node.js; machines that have it from elsewhere keep
+    # theirs (Debian's npm would conflict with it).
+    command -v npm >/dev/null 2>&1 || TAVORIC_PACKAGES+=(nodejs npm)
     local package
     for package in "${TAVORIC_PACKAGES[@]}"; do
         if ! dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q "install ok installed"; then
@@ -40,5 +44,28 @@ tavoric_build() {
     cmake --build "$TAVORIC_BUILD" -j "$(nproc)"
 }
 
+# Chromium (inside Qt WebEngine, and the browser of the map page's test) refuses to run as
+# root with its sandbox; the run and test scripts switch it off then, and draw in software.
+# The program itself never changes these for its users.
+tavoric_web_environment() {
+    if [ "$(id -u)" -eq 0 ]; then
+        export QTWEBENGINE_DISABLE_SANDBOX=1
+        export QTWEBENGINE_CHROMIUM_FLAGS="--disable-gpu ${QTWEBENGINE_CHROMIUM_FLAGS:-}"
+    fi
+}
+
+# playwright-core for the map page's browser test, from npm, into the build folder (it drives
+# Debian's chromium and downloads no browser of its own).
+tavoric_web_tools() {
+    local web="$TAVORIC_BUILD/web"
+    mkdir -p "$web"
+    if ! cmp -s "$TAVORIC_ROOT/tests/web/package-lock.json" "$web/package-lock.json" ||
+        [ ! -d "$web/node_modules/playwright-core" ]; then
+        cp "$TAVORIC_ROOT/tests/web/package.json" "$TAVORIC_ROOT/tests/web/package-lock.json" "$web/"
+        (cd "$web" && npm ci --no-audit --no-fund --loglevel=error)
+    fi
+}
+
 tavoric_install_packages
 tavoric_build
+tavoric_web_tools

@@ -3,6 +3,7 @@
 # runs under a virtual X server when there is no display.
 set -euo pipefail
 source "$(dirname "${BASH_SOURCE[0]}")/setup.sh"
+tavoric_web_environment
 
 cd "$TAVORIC_BUILD"
 if [ -n "${DISPLAY:-}" ]; then

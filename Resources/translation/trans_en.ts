@@ -13,13 +13,6 @@
     </message>
   </context>
   <context>
-    <name>TavPrompt</name>
-    <message>
-      <source>Warning</source>
-      <translation>Warning</translation>
-    </message>
-  </context>
-  <context>
     <name>MainWindow</name>
     <message>
       <source>Complete to Save Snapshot!</source>
@@ -28,6 +21,13 @@
     <message>
       <source>Snapshot not saved:</source>
       <translation>Snapshot not saved:</translation>
+    </message>
+  </context>
+  <context>
+    <name>MapView</name>
+    <message>
+      <source>The map cannot be shown: its page in the program is damaged.</source>
+      <translation>The map cannot be shown: its page in the program is damaged.</translation>
     </message>
   </context>
   <context>
@@ -173,6 +173,13 @@
     </message>
   </context>
   <context>
+    <name>TavPrompt</name>
+    <message>
+      <source>Warning</source>
+      <translation>Warning</translation>
+    </message>
+  </context>
+  <context>
     <name>TavShortcutTable</name>
     <message>
       <source>Open files</source>
@@ -235,6 +242,21 @@
     </message>
   </context>
   <context>
+    <name>ui_chartView</name>
+    <message>
+      <source>X</source>
+      <translation>X</translation>
+    </message>
+    <message>
+      <source>Y</source>
+      <translation>Y</translation>
+    </message>
+    <message>
+      <source>Z</source>
+      <translation>Z</translation>
+    </message>
+  </context>
+  <context>
     <name>ui_languageView</name>
     <message>
       <source>Language</source>
@@ -258,6 +280,10 @@
     <message>
       <source>Recordings</source>
       <translation>Recordings</translation>
+    </message>
+    <message>
+      <source>Map</source>
+      <translation>Map</translation>
     </message>
   </context>
   <context>

@@ -13,13 +13,6 @@
     </message>
   </context>
   <context>
-    <name>TavPrompt</name>
-    <message>
-      <source>Warning</source>
-      <translation>אזהרה</translation>
-    </message>
-  </context>
-  <context>
     <name>MainWindow</name>
     <message>
       <source>Complete to Save Snapshot!</source>
@@ -28,6 +21,13 @@
     <message>
       <source>Snapshot not saved:</source>
       <translation>התמונה לא נשמרה:</translation>
+    </message>
+  </context>
+  <context>
+    <name>MapView</name>
+    <message>
+      <source>The map cannot be shown: its page in the program is damaged.</source>
+      <translation>לא ניתן להציג את המפה: דף המפה בתוכנה פגום.</translation>
     </message>
   </context>
   <context>
@@ -180,6 +180,13 @@
     </message>
   </context>
   <context>
+    <name>TavPrompt</name>
+    <message>
+      <source>Warning</source>
+      <translation>אזהרה</translation>
+    </message>
+  </context>
+  <context>
     <name>TavShortcutTable</name>
     <message>
       <source>Open files</source>
@@ -242,6 +249,21 @@
     </message>
   </context>
   <context>
+    <name>ui_chartView</name>
+    <message>
+      <source>X</source>
+      <translation>X</translation>
+    </message>
+    <message>
+      <source>Y</source>
+      <translation>Y</translation>
+    </message>
+    <message>
+      <source>Z</source>
+      <translation>Z</translation>
+    </message>
+  </context>
+  <context>
     <name>ui_languageView</name>
     <message>
       <source>Language</source>
@@ -265,6 +287,10 @@
     <message>
       <source>Recordings</source>
       <translation>הקלטות</translation>
+    </message>
+    <message>
+      <source>Map</source>
+      <translation>מפה</translation>
     </message>
   </context>
   <context>

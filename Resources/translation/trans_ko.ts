@@ -13,13 +13,6 @@
     </message>
   </context>
   <context>
-    <name>TavPrompt</name>
-    <message>
-      <source>Warning</source>
-      <translation>경고</translation>
-    </message>
-  </context>
-  <context>
     <name>MainWindow</name>
     <message>
       <source>Complete to Save Snapshot!</source>
@@ -28,6 +21,13 @@
     <message>
       <source>Snapshot not saved:</source>
       <translation>스냅샷을 저장하지 못했습니다:</translation>
+    </message>
+  </context>
+  <context>
+    <name>MapView</name>
+    <message>
+      <source>The map cannot be shown: its page in the program is damaged.</source>
+      <translation>지도를 표시할 수 없습니다: 프로그램의 지도 페이지가 손상되었습니다.</translation>
     </message>
   </context>
   <context>
@@ -173,6 +173,13 @@
     </message>
   </context>
   <context>
+    <name>TavPrompt</name>
+    <message>
+      <source>Warning</source>
+      <translation>경고</translation>
+    </message>
+  </context>
+  <context>
     <name>TavShortcutTable</name>
     <message>
       <source>Open files</source>
@@ -235,6 +242,21 @@
     </message>
   </context>
   <context>
+    <name>ui_chartView</name>
+    <message>
+      <source>X</source>
+      <translation>X</translation>
+    </message>
+    <message>
+      <source>Y</source>
+      <translation>Y</translation>
+    </message>
+    <message>
+      <source>Z</source>
+      <translation>Z</translation>
+    </message>
+  </context>
+  <context>
     <name>ui_languageView</name>
     <message>
       <source>Language</source>
@@ -258,6 +280,10 @@
     <message>
       <source>Recordings</source>
       <translation>녹화 영상</translation>
+    </message>
+    <message>
+      <source>Map</source>
+      <translation>지도</translation>
     </message>
   </context>
   <context>

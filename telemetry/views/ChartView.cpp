@@ -1,0 +1,183 @@
+#include "ChartView.h"
+
+#include "ChartTrace.h"
+#include "PlayerInterface.h"
+#include "StatusLog.h"
+
+#include <QLabel>
+#include <QMouseEvent>
+#include <QPainter>
+
+#include <algorithm>
+
+const char* const ChartView::kAxisColours[3] = {"#ff3a00", "#318dff", "#65ca26"};
+
+namespace {
+
+QString* displayText(int axis) {
+    QString* const texts[3] = {&PlayerInterface::gSensorXText, &PlayerInterface::gSensorYText,
+                               &PlayerInterface::gSensorZText};
+    return texts[axis];
+}
+
+} // namespace
+
+ChartView::ChartView(QWidget* parent)
+    : TavWidget("ChartView", parent), m_frame(new QWidget(this)), m_bar(new QWidget(this)) {
+    logInfo("[ChartView]: Enter ChartView class.");
+    // The view paints the traces itself, under its children: the frame and the bar only mark
+    // where (they paint nothing), and the view's own entry gives the background.
+    addChild(m_frame, "chartWidget", Style::None);
+    addChild(m_bar, "chartBar", Style::None);
+    for (QWidget* marker : {m_frame, m_bar})
+        marker->setAttribute(Qt::WA_TransparentForMouseEvents);
+    const char* const names[3] = {"gSensorLX", "gSensorLY", "gSensorLZ"};
+    const char* const values[3] = {"gSensorLXValue", "gSensorLYValue", "gSensorLZValue"};
+    for (int axis = 0; axis < 3; ++axis) {
+        m_names[axis] = new QLabel(this);
+        addChild(m_names[axis], names[axis], Style::Label);
+        m_values[axis] = new QLabel(QStringLiteral("0.000"), this);
+        addChild(m_values[axis], values[axis], Style::Label);
+        m_values[axis]->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    }
+    setCursor(Qt::PointingHandCursor);
+    retranslate();
+}
+
+QRect ChartView::barRect() const {
+    return m_bar->geometry();
+}
+
+bool ChartView::hasRecording() const {
+    return (PlayerInterface::playStatus == PlayerInterface::PlayRunning ||
+            PlayerInterface::playStatus == PlayerInterface::PlayPaused) &&
+           PlayerInterface::totalTime > 0;
+}
+
+void ChartView::onloadChart() {
+    logDebug("ChartView::onloadChart");
+    logInfo("[ChartView]: Load chart data completely.");
+    const QList<GSensorPoint>& points = PlayerInterface::gSensorList;
+    if (!points.isEmpty())
+        m_sampleCount = points.last().index - 1;
+    for (auto& series : m_series)
+        series.clear();
+    for (int k = 0; k < m_sampleCount && k < points.size(); ++k) {
+        const GSensorPoint& point = points.at(k);
+        m_series[0].append(QPointF(k, point.x));
+        m_series[1].append(QPointF(k, point.y));
+        m_series[2].append(QPointF(k, point.z));
+    }
+    m_chartLoaded = true;
+    rebuildLines();
+    update();
+}
+
+void ChartView::onUpdateChart() {
+    logDebug("ChartView::onUpdateChart");
+    if (PlayerInterface::telemetryPresent && hasRecording()) {
+        m_chartActive = true;
+        const int size = m_series[0].size();
+        const int i = int(size * PlayerInterface::currentTime / PlayerInterface::totalTime);
+        if (i > 0 && i < size) {
+            for (int axis = 0; axis < 3; ++axis) {
+                const QString text = QString::number(m_series[axis].at(i).y(), 'f', 3);
+                *displayText(axis) = text;
+                m_values[axis]->setText(text);
+            }
+        }
+    }
+    update();
+}
+
+void ChartView::onClearData() {
+    logDebug("ChartView::onClearData");
+    PlayerInterface::gSensorList.clear();
+    for (int axis = 0; axis < 3; ++axis) {
+        m_series[axis].clear();
+        m_lines[axis].clear();
+        m_values[axis]->setText(QStringLiteral("0.000"));
+    }
+    m_sampleCount = 0;
+    m_chartLoaded = false;
+    m_chartActive = false;
+    m_dragX = -1;
+    update();
+}
+
+void ChartView::rebuildLines() {
+    const QSize bar = m_bar->size();
+    for (int axis = 0; axis < 3; ++axis) {
+        QVector<double> values;
+        values.reserve(m_series[axis].size());
+        for (const QPointF& point : m_series[axis])
+            values.append(point.y());
+        m_lines[axis] = ChartTrace::columnLines(values, bar);
+    }
+}
+
+void ChartView::resizeEvent(QResizeEvent* event) {
+    TavWidget::resizeEvent(event);
+    if (m_chartLoaded)
+        rebuildLines();
+}
+
+void ChartView::paintEvent(QPaintEvent*) {
+    if (PlayerInterface::gSensorList.isEmpty() || !m_chartLoaded)
+        return;
+    QPainter painter(this);
+    const QRect bar = barRect();
+    painter.save();
+    painter.translate(bar.x(), bar.y() + bar.height() / 2);
+    for (int axis = 0; axis < 3; ++axis) {
+        painter.setPen(QColor(kAxisColours[axis]));
+        painter.drawLines(m_lines[axis]);
+    }
+    painter.restore();
+    if (PlayerInterface::totalTime <= 0)
+        return;
+    const int x =
+        m_dragX >= 0 ? m_dragX
+                     : int(bar.width() * PlayerInterface::currentTime / PlayerInterface::totalTime);
+    painter.setPen(Qt::white);
+    painter.drawLine(x, bar.top(), x, bar.bottom());
+}
+
+int ChartView::timeAt(int x) const {
+    const QRect bar = barRect();
+    const double share = std::clamp(double(x - bar.x()) / std::max(1, bar.width()), 0.0, 1.0);
+    return int(share * PlayerInterface::totalTime);
+}
+
+void ChartView::mousePressEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton || !hasRecording() || !m_chartLoaded) {
+        TavWidget::mousePressEvent(event);
+        return;
+    }
+    m_dragX = std::clamp(event->pos().x(), barRect().left(), barRect().right());
+    update();
+    event->accept();
+}
+
+void ChartView::mouseMoveEvent(QMouseEvent* event) {
+    if (m_dragX < 0) {
+        TavWidget::mouseMoveEvent(event);
+        return;
+    }
+    m_dragX = std::clamp(event->pos().x(), barRect().left(), barRect().right());
+    update();
+    event->accept();
+}
+
+void ChartView::mouseReleaseEvent(QMouseEvent* event) {
+    if (m_dragX < 0 || event->button() != Qt::LeftButton) {
+        TavWidget::mouseReleaseEvent(event);
+        return;
+    }
+    const int ms = timeAt(m_dragX);
+    m_dragX = -1;
+    update();
+    if (hasRecording())
+        emit onSendSeek(ms);
+    event->accept();
+}

@@ -1,0 +1,226 @@
+#include "MapView.h"
+
+#include "MapPageCipher.h"
+#include "PlayerInterface.h"
+#include "StatusLog.h"
+
+#include <QCoreApplication>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QUrl>
+#include <QWebEnginePage>
+#include <QWebEngineSettings>
+#include <QWebEngineView>
+
+#include <algorithm>
+
+namespace {
+
+QString coordinate(double value) {
+    return QString::number(value, 'f', 5);
+}
+
+QString speedText(double value) {
+    return QString::number(value, 'g', 6);
+}
+
+} // namespace
+
+MapView::MapView(QWidget* parent, const QByteArray& encryptedPage)
+    : TavWidget("MapView", parent), m_frame(new QWidget(this)), m_area(new QWidget(m_frame)) {
+    logInfo("[MapView]: Enter MapView class.");
+    addChild(m_frame, "mapFrame", Style::Panel);
+    addChild(m_area, "mapArea", Style::Panel);
+
+    QString error;
+    const QByteArray page = encryptedPage.isEmpty()
+                                ? MapPageCipher::builtInPage(&error)
+                                : MapPageCipher::decrypt(encryptedPage, MapPageCipher::programKey(),
+                                                         MapPageCipher::programIv(), &error);
+    if (!page.isEmpty() && !page.startsWith("<!DOCTYPE html>")) {
+        error = QStringLiteral("the decrypted page is not a map page");
+    } else if (!page.isEmpty()) {
+        m_web = new QWebEngineView(m_area);
+        addChild(m_web, "mapWeb", Style::None);
+        QWebEngineSettings* settings = m_web->settings();
+        settings->setAttribute(QWebEngineSettings::LocalContentCanAccessFileUrls, true);
+        settings->setAttribute(QWebEngineSettings::LocalContentCanAccessRemoteUrls, true);
+        connect(m_web, &QWebEngineView::loadFinished, this, &MapView::setLoadMap);
+        m_web->setHtml(QString::fromUtf8(page),
+                       QUrl::fromLocalFile(QCoreApplication::applicationDirPath() +
+                                           QStringLiteral("/Resources/json/")));
+    }
+    if (m_web == nullptr) {
+        // The rest of the program works on; the map area says why it is empty.
+        m_pageFailed = true;
+        logError("[MapView]: The map page cannot be shown: %s", error.toLocal8Bit().constData());
+        m_error = new QLabel(m_area);
+        addChild(m_error, "mapError", Style::Label);
+        m_error->setWordWrap(true);
+        m_error->setAlignment(Qt::AlignCenter);
+        m_error->setText(tr("The map cannot be shown: its page in the program is damaged."));
+    }
+    m_panelWidth = width();
+}
+
+void MapView::run(const QString& script) {
+    if (m_web == nullptr)
+        return;
+    m_web->page()->runJavaScript(script);
+    emit scriptSent(script);
+}
+
+void MapView::setLoadMap(bool ok) {
+    logDebug("MapView::setLoadMap");
+    m_pageLoaded = m_pageLoaded || ok;
+    run(QStringLiteral("initMap()"));
+    if (ok)
+        logInfo("[MapView]: Set map data is complete.");
+    else
+        logInfo("[MapView]: Failed to set map data.");
+    m_mapLoaded = ok;
+    // A new map has no route: the recording's goes on it again.
+    if (ok && !m_points.isEmpty())
+        run(routeScript());
+}
+
+void MapView::onLoadMap() {
+    logDebug("MapView::onLoadMap");
+    logDebug("MapView::setData");
+    m_points.clear();
+    m_points.reserve(PlayerInterface::gpsList.size());
+    for (const GpsPoint& point : PlayerInterface::gpsList)
+        m_points.append({point.index, point.latitude, point.longitude, point.speed});
+    m_usedDefault = false;
+    m_noFix[0] = m_noFix[1] = false;
+    if (m_pageLoaded) {
+        run(QStringLiteral("initMap()"));
+        logInfo("[MapView]: Set map data is complete.");
+        m_mapLoaded = true;
+        if (!m_points.isEmpty())
+            run(routeScript());
+    }
+    if (m_points.isEmpty())
+        return;
+    double latitude = m_points.first().latitude;
+    double longitude = m_points.first().longitude;
+    double speed = m_points.first().speed;
+    if (latitude == 0 && longitude == 0) {
+        m_usedDefault = true;
+        latitude = kDefaultLatitude;
+        longitude = kDefaultLongitude;
+        speed = 0;
+    }
+    showPosition(latitude, longitude, speed, true);
+}
+
+void MapView::onUpdateMap() {
+    logDebug("MapView::onUpdateMap");
+    if (!PlayerInterface::telemetryPresent || m_points.isEmpty() ||
+        (PlayerInterface::playStatus != PlayerInterface::PlayRunning &&
+         PlayerInterface::playStatus != PlayerInterface::PlayPaused) ||
+        PlayerInterface::totalTime <= 0)
+        return;
+    const int lastIndex = m_points.last().index;
+    const int i = int(lastIndex * PlayerInterface::currentTime / PlayerInterface::totalTime);
+    if (i < 1 || i >= lastIndex || !m_mapLoaded || i >= m_points.size())
+        return;
+    const MapPoint& point = m_points.at(i);
+    if (point.latitude == 0 && point.longitude == 0) {
+        m_noFix[0] = m_noFix[1] = true;
+        showPosition(kDefaultLatitude, kDefaultLongitude, point.speed, false);
+        return;
+    }
+    m_noFix[0] = false;
+    if (m_usedDefault) {
+        m_usedDefault = false;
+        setLoadMap(true);
+    }
+    showPosition(point.latitude, point.longitude, point.speed, false);
+}
+
+void MapView::showPosition(double latitude, double longitude, double speed, bool first) {
+    if (m_mapLoaded)
+        run(QStringLiteral("setLatLng(%1, %2, %3, %4)")
+                .arg(coordinate(latitude), coordinate(longitude), speedText(speed),
+                     first ? QStringLiteral("true") : QStringLiteral("false")));
+    PlayerInterface::latitudeText = coordinate(latitude);
+    PlayerInterface::longitudeText = coordinate(longitude);
+    PlayerInterface::speedText = speedText(speed);
+}
+
+QString MapView::routeScript() const {
+    QStringList points;
+    const int step = std::max(1, int((m_points.size() + kMaxRoutePoints - 1) / kMaxRoutePoints));
+    for (int i = 0; i < m_points.size(); i += step) {
+        const MapPoint& point = m_points.at(i);
+        points << QStringLiteral("[%1,%2,%3]")
+                      .arg(coordinate(point.latitude), coordinate(point.longitude),
+                           QString::number(point.speed, 'f', 1));
+    }
+    return QStringLiteral("setRoute([%1])").arg(points.join(','));
+}
+
+void MapView::onClearData() {
+    logDebug("MapView::onClearData");
+    PlayerInterface::gpsList.clear();
+    m_points.clear();
+    m_mapLoaded = false;
+    m_dragging = false;
+    setAttribute(Qt::WA_TransparentForMouseEvents, false);
+    emit onSendBlockKeyboardEvent(false);
+}
+
+void MapView::onMapShow(bool show) {
+    logDebug("MapView::onMapShow");
+    for (QWidget* child : {m_frame, m_area, static_cast<QWidget*>(m_web)}) {
+        if (child != nullptr)
+            child->setVisible(show);
+    }
+    setVisible(show);
+}
+
+void MapView::resizeUi() {
+    logDebug("MapView::resizeUi");
+    m_panelWidth = width();
+    m_frame->setGeometry(0, 0, m_panelWidth, height());
+    m_area->setGeometry(0, 0, m_panelWidth, height());
+    if (m_web != nullptr)
+        m_web->setGeometry(m_area->rect());
+    if (m_error != nullptr)
+        m_error->setGeometry(m_area->rect().adjusted(16, 16, -16, -16));
+}
+
+void MapView::resizeEvent(QResizeEvent* event) {
+    TavWidget::resizeEvent(event);
+    resizeUi();
+}
+
+void MapView::mousePressEvent(QMouseEvent* event) {
+    if (m_layoutMode != 3 || event->button() != Qt::LeftButton) {
+        TavWidget::mousePressEvent(event);
+        return;
+    }
+    emit onSendBlockKeyboardEvent(true);
+    m_dragging = true;
+    m_pressOffset = event->globalPos() - pos();
+    event->accept();
+}
+
+void MapView::mouseMoveEvent(QMouseEvent* event) {
+    if (!m_dragging) {
+        TavWidget::mouseMoveEvent(event);
+        return;
+    }
+    move(event->globalPos() - m_pressOffset);
+    event->accept();
+}
+
+void MapView::mouseReleaseEvent(QMouseEvent* event) {
+    logDebug("MapView::mouseReleaseEvent");
+    if (m_dragging) {
+        m_dragging = false;
+        emit onSendBlockKeyboardEvent(false);
+    }
+    TavWidget::mouseReleaseEvent(event);
+}

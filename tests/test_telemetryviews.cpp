@@ -1,0 +1,400 @@
+// The G-sensor chart and the GPS map: what the chart paints where (read back from the drawn
+// picture), and which scripts the map sends its page (a real web view with the program's own
+// page) for a recording, its missing fixes, its start and end; the page's encryption.
+#include "AppGlobals.h"
+#include "ChartTrace.h"
+#include "ChartView.h"
+#include "MapPageCipher.h"
+#include "MapPageData.h"
+#include "MapView.h"
+#include "PlayerInterface.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QLabel>
+#include <QPainter>
+#include <QProcess>
+#include <QRandomGenerator>
+#include <QRegularExpression>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QWebEngineView>
+#include <QtTest>
+
+#include "WebTestMain.h"
+
+namespace {
+
+void setPlaying(double currentMs, double totalMs) {
+    PlayerInterface::playStatus = PlayerInterface::PlayPaused;
+    PlayerInterface::telemetryPresent = true;
+    PlayerInterface::currentTime = currentMs;
+    PlayerInterface::totalTime = totalMs;
+}
+
+// count G-sensor points: X = k / 100, Y = -1, Z = 0.5.
+void fillGSensor(int count) {
+    PlayerInterface::gSensorList.clear();
+    for (int k = 0; k < count; ++k)
+        PlayerInterface::gSensorList.append({k, float(k / 100.0), -1.0f, 0.5f});
+}
+
+bool isColour(QRgb pixel, const char* colour) {
+    return (pixel & 0xffffff) == (QColor(colour).rgb() & 0xffffff);
+}
+
+// Pixels of a colour in the chart's bar (the axis names beside it wear the same colours).
+int countColour(ChartView& chart, const char* colour) {
+    const QImage image = chart.grab(chart.barRect()).toImage();
+    int count = 0;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            count += isColour(image.pixel(x, y), colour);
+    return count;
+}
+
+// The numbers of a C++ byte array as the page encryption tool writes it.
+QByteArray bytesOfSource(const QString& path) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return QByteArray();
+    const QString text = QString::fromLatin1(file.readAll());
+    const QString body = text.section('{', 1).section('}', 0, 0);
+    QByteArray bytes;
+    for (const QString& number : body.split(',', Qt::SkipEmptyParts)) {
+        bool ok = false;
+        const int value = number.trimmed().toInt(&ok);
+        if (ok)
+            bytes.append(char(value));
+    }
+    return bytes;
+}
+
+} // namespace
+
+class TestTelemetryViews : public QObject {
+    Q_OBJECT
+
+    QTemporaryDir m_data;
+
+    QStringList scriptsOf(const QSignalSpy& spy) const {
+        QStringList scripts;
+        for (const QList<QVariant>& call : spy)
+            scripts << call.at(0).toString();
+        return scripts;
+    }
+
+    // A map whose page has loaded.
+    void waitForPage(MapView& map) {
+        QVERIFY(map.webView() != nullptr);
+        QSignalSpy loaded(map.webView(), &QWebEngineView::loadFinished);
+        QVERIFY(loaded.wait(20000));
+        QVERIFY(loaded.first().at(0).toBool());
+    }
+
+private slots:
+    void initTestCase() { AppGlobals::dataFolder = m_data.path(); }
+
+    void init() {
+        PlayerInterface::gSensorList.clear();
+        PlayerInterface::gpsList.clear();
+        setPlaying(0, 0);
+        PlayerInterface::playStatus = PlayerInterface::PlayIdle;
+        PlayerInterface::telemetryPresent = false;
+    }
+
+    // ---- Chart ----
+
+    void chartPaintsEachAxisAndThePosition() {
+        ChartView chart;
+        chart.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&chart));
+        fillGSensor(101); // last index 100: 99 samples
+        setPlaying(5000, 10000);
+        chart.onloadChart();
+        chart.onUpdateChart();
+
+        // Sample i = 99 * 5000 / 10000 = 49: X 0.490, Y -1.000, Z 0.500.
+        const QStringList values = {chart.findChild<QLabel*>("gSensorLXValue")->text(),
+                                    chart.findChild<QLabel*>("gSensorLYValue")->text(),
+                                    chart.findChild<QLabel*>("gSensorLZValue")->text()};
+        QCOMPARE(values, (QStringList{"0.490", "-1.000", "0.500"}));
+        QCOMPARE(PlayerInterface::gSensorXText, QStringLiteral("0.490"));
+
+        const QImage image = chart.grab().toImage();
+        const QRect bar = chart.barRect();
+        const int middle = bar.y() + bar.height() / 2;
+        const int half = bar.height() / 2;
+        // Y (-1) a quarter of the bar below the zero line, Z (0.5) an eighth above it, the
+        // whole way along; X rises from 0 to about 1 g.
+        for (int x : {bar.x() + 40, bar.x() + bar.width() / 3, bar.right() - 40}) {
+            QVERIFY2(isColour(image.pixel(x, middle + int(half * 0.5)), ChartView::kAxisColours[1]),
+                     qPrintable(QString::number(x)));
+            QVERIFY(isColour(image.pixel(x, middle + int(half * -0.5 * 0.5)),
+                             ChartView::kAxisColours[2]));
+        }
+        const int k = 90;
+        const int x = ChartTrace::xOf(k, 99, bar.width());
+        QVERIFY(
+            isColour(image.pixel(bar.x() + x, middle + ChartTrace::yOf(k / 100.0, bar.height())),
+                     ChartView::kAxisColours[0]));
+        // The white position line halfway along the bar.
+        const int line = bar.width() / 2;
+        QCOMPARE(image.pixel(line, middle + 3) & 0xffffff, QRgb(0xffffff));
+        QCOMPARE(image.pixel(line, bar.bottom()) & 0xffffff, QRgb(0xffffff));
+
+        // At time 0 the labels keep what they show.
+        PlayerInterface::currentTime = 0;
+        chart.onUpdateChart();
+        QCOMPARE(chart.findChild<QLabel*>("gSensorLXValue")->text(), QStringLiteral("0.490"));
+
+        // Cleared: "0.000" and nothing drawn.
+        chart.onClearData();
+        QVERIFY(PlayerInterface::gSensorList.isEmpty());
+        QCOMPARE(chart.findChild<QLabel*>("gSensorLYValue")->text(), QStringLiteral("0.000"));
+        for (const char* colour : ChartView::kAxisColours)
+            QCOMPARE(countColour(chart, colour), 0);
+    }
+
+    void fewerThanTwoSamplesDrawNoLine() {
+        ChartView chart;
+        chart.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&chart));
+        setPlaying(1000, 10000);
+        for (int points : {2, 3}) { // 0 and 1 samples
+            fillGSensor(points);
+            chart.onloadChart();
+            for (const char* colour : ChartView::kAxisColours)
+                QCOMPARE(countColour(chart, colour), 0);
+        }
+        fillGSensor(4); // 2 samples: one line per axis
+        chart.onloadChart();
+        QVERIFY(countColour(chart, ChartView::kAxisColours[1]) > 0);
+    }
+
+    // A long recording is drawn with far fewer lines, and the picture is the same, pixel for
+    // pixel, as one line per pair of samples.
+    void longTracesDrawTheSamePicture() {
+        const QSize bar(836, 76);
+        for (int n : {40, 900, 36000}) {
+            QVector<double> values;
+            QRandomGenerator random(n);
+            double value = 0;
+            for (int k = 0; k < n; ++k) {
+                value = qBound(-2.0, value + (random.bounded(2000) - 1000) / 4000.0, 2.0);
+                values.append(value);
+            }
+            QImage all(bar.width() + 1, bar.height() + 1, QImage::Format_RGB32);
+            QImage columns = all;
+            all.fill(Qt::black);
+            columns.fill(Qt::black);
+            for (auto [image, lines] :
+                 {std::pair{&all, ChartTrace::allLines(values, bar)},
+                  std::pair{&columns, ChartTrace::columnLines(values, bar)}}) {
+                QPainter painter(image);
+                painter.translate(0, bar.height() / 2);
+                painter.setPen(Qt::red);
+                painter.drawLines(lines);
+            }
+            QCOMPARE(columns, all);
+            if (n == 36000)
+                QVERIFY(ChartTrace::columnLines(values, bar).size() <= 2 * (bar.width() + 1));
+        }
+    }
+
+    void clickOrDragOnTheChartMovesPlayback() {
+        ChartView chart;
+        chart.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&chart));
+        fillGSensor(101);
+        setPlaying(1000, 40000);
+        chart.onloadChart();
+        QSignalSpy seek(&chart, &ChartView::onSendSeek);
+        const QRect bar = chart.barRect();
+        QTest::mouseClick(&chart, Qt::LeftButton, {}, QPoint(bar.x() + bar.width() / 4, 20));
+        QCOMPARE(seek.count(), 1);
+        QVERIFY(qAbs(seek.last().at(0).toInt() - 10000) < 100);
+        // A drag seeks once, where it ends.
+        QTest::mousePress(&chart, Qt::LeftButton, {}, QPoint(bar.x() + 10, 20));
+        QMouseEvent move(QEvent::MouseMove, QPointF(bar.x() + bar.width() * 3 / 4, 20),
+                         Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&chart, &move);
+        QTest::mouseRelease(&chart, Qt::LeftButton, {}, QPoint(bar.x() + bar.width() * 3 / 4, 20));
+        QCOMPARE(seek.count(), 2);
+        QVERIFY(qAbs(seek.last().at(0).toInt() - 30000) < 100);
+        // Nothing to move without a recording.
+        PlayerInterface::playStatus = PlayerInterface::PlayIdle;
+        QTest::mouseClick(&chart, Qt::LeftButton, {}, QPoint(bar.x() + 50, 20));
+        QCOMPARE(seek.count(), 2);
+    }
+
+    // ---- Map ----
+
+    void mapSendsNothingButInitMapBeforeItsPageIsUp() {
+        PlayerInterface::gpsList = {{0, 37.5f, 127.0f, 40.0f, 0, 0},
+                                    {1, 37.5f, 127.001f, 41.0f, 0, 0}};
+        MapView map;
+        QSignalSpy scripts(&map, &MapView::scriptSent);
+        setPlaying(500, 1000);
+        map.onLoadMap();
+        map.onUpdateMap();
+        QVERIFY(scripts.isEmpty());
+        waitForPage(map);
+        // The page came up with the recording's points known: a new map and its route.
+        const QStringList sent = scriptsOf(scripts);
+        QVERIFY(!sent.isEmpty());
+        QCOMPARE(sent.first(), QStringLiteral("initMap()"));
+        QVERIFY(sent.size() == 1 || sent.at(1).startsWith("setRoute(["));
+    }
+
+    void mapFollowsTheRecordingFromTheDefaultPosition() {
+        // Ten points without a fix, then a drive east at 42.5 km/h.
+        PlayerInterface::gpsList.clear();
+        for (int i = 0; i < 100; ++i) {
+            const bool fix = i >= 10;
+            PlayerInterface::gpsList.append(
+                {i, fix ? 37.40012f : 0.0f, fix ? float(127.1 + i * 0.0001) : 0.0f, 42.5f, 0, 0});
+        }
+        MapView map;
+        waitForPage(map);
+        QSignalSpy scripts(&map, &MapView::scriptSent);
+        setPlaying(0, 9900);
+        map.onLoadMap();
+        QStringList sent = scriptsOf(scripts);
+        QCOMPARE(sent.size(), 3);
+        QCOMPARE(sent.at(0), QStringLiteral("initMap()"));
+        QVERIFY(sent.at(1).startsWith("setRoute([[0.00000,0.00000,42.5],"));
+        QCOMPARE(sent.at(2), QStringLiteral("setLatLng(37.48534, 127.11623, 0, true)"));
+        QCOMPARE(PlayerInterface::latitudeText, QStringLiteral("37.48534"));
+
+        // At time 0 and at the very end nothing is sent.
+        scripts.clear();
+        map.onUpdateMap();
+        PlayerInterface::currentTime = 9900;
+        map.onUpdateMap();
+        QVERIFY(scripts.isEmpty());
+
+        // Still no fix at point 5: the default position, as a move.
+        PlayerInterface::currentTime = 500;
+        map.onUpdateMap();
+        QCOMPARE(scriptsOf(scripts), QStringList{"setLatLng(37.48534, 127.11623, 42.5, false)"});
+
+        // The first point with a fix: a new map with the route, then the real position.
+        scripts.clear();
+        PlayerInterface::currentTime = 2000; // point 20
+        map.onUpdateMap();
+        sent = scriptsOf(scripts);
+        QCOMPARE(sent.size(), 3);
+        QCOMPARE(sent.at(0), QStringLiteral("initMap()"));
+        QVERIFY(sent.at(1).startsWith("setRoute(["));
+        QCOMPARE(sent.at(2), QStringLiteral("setLatLng(37.40012, 127.10200, 42.5, false)"));
+        QCOMPARE(PlayerInterface::longitudeText, QStringLiteral("127.10200"));
+        QCOMPARE(PlayerInterface::speedText, QStringLiteral("42.5"));
+
+        // Later points only move the car; not playing, nothing.
+        scripts.clear();
+        PlayerInterface::currentTime = 3000;
+        map.onUpdateMap();
+        QCOMPARE(scriptsOf(scripts), QStringList{"setLatLng(37.40012, 127.10300, 42.5, false)"});
+        PlayerInterface::playStatus = PlayerInterface::PlayIdle;
+        map.onUpdateMap();
+        QCOMPARE(scripts.size(), 1);
+
+        // Cleared: the points go, and nothing more is sent.
+        QSignalSpy keyboard(&map, &MapView::onSendBlockKeyboardEvent);
+        map.onClearData();
+        QVERIFY(PlayerInterface::gpsList.isEmpty());
+        QCOMPARE(keyboard.count(), 1);
+        setPlaying(3000, 9900);
+        map.onUpdateMap();
+        QCOMPARE(scripts.size(), 1);
+    }
+
+    void mapDragsOnlyAsAWindowOfItsOwn() {
+        MapView map;
+        map.setGeometry(100, 100, 310, 400);
+        map.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&map));
+        const QPoint start = map.pos();
+        QSignalSpy keyboard(&map, &MapView::onSendBlockKeyboardEvent);
+        const auto drag = [&map] {
+            QTest::mousePress(&map, Qt::LeftButton, {}, QPoint(10, 10));
+            QMouseEvent move(QEvent::MouseMove, QPointF(60, 40), map.mapToGlobal(QPoint(60, 40)),
+                             Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+            QApplication::sendEvent(&map, &move);
+            QTest::mouseRelease(&map, Qt::LeftButton, {}, QPoint(60, 40));
+        };
+        drag();
+        QCOMPARE(map.pos(), start);
+        QVERIFY(keyboard.isEmpty());
+        map.setLayoutMode(3);
+        drag();
+        QCOMPARE(map.pos(), start + QPoint(50, 30));
+        QCOMPARE(keyboard.count(), 2); // blocked while dragging, then free again
+        QVERIFY(keyboard.at(0).at(0).toBool() && !keyboard.at(1).at(0).toBool());
+    }
+
+    // ---- The page's encryption ----
+
+    void pageIsKeptEncryptedAndComesBackWhole() {
+        QFile source(QStringLiteral(MAP_PAGE));
+        QVERIFY(source.open(QIODevice::ReadOnly));
+        QString error;
+        QCOMPARE(MapPageCipher::builtInPage(&error), source.readAll());
+
+        // The build's tool and the program's decryption agree, also for a page that fills
+        // its last block (the padding is then a whole block of its own).
+        QTemporaryDir dir;
+        for (int size : {1, 15, 16, 1000}) {
+            const QByteArray page(size, 'p');
+            QFile in(dir.filePath("page.html"));
+            QVERIFY(in.open(QIODevice::WriteOnly));
+            in.write(page);
+            in.close();
+            QCOMPARE(QProcess::execute(QStringLiteral(ENCRYPT_PAGE),
+                                       {QString::fromLatin1(MapPageCipher::programKey().toHex()),
+                                        QString::fromLatin1(MapPageCipher::programIv().toHex()),
+                                        in.fileName(), dir.filePath("page.cpp")}),
+                     0);
+            const QByteArray encrypted = bytesOfSource(dir.filePath("page.cpp"));
+            QCOMPARE(encrypted.size(), (size / 16 + 1) * 16);
+            QCOMPARE(MapPageCipher::decrypt(encrypted, MapPageCipher::programKey(),
+                                            MapPageCipher::programIv(), &error),
+                     page);
+        }
+    }
+
+    void wrongKeyOrDamagedPageFailsCleanly() {
+        // The program's stored page with a key one bit off: no page comes out.
+        const QByteArray stored =
+            QByteArray::fromRawData(reinterpret_cast<const char*>(kMapPageData), kMapPageSize);
+        QByteArray key = MapPageCipher::programKey();
+        key[0] = char(key[0] ^ 0x01);
+        QString error;
+        const QByteArray wrong =
+            MapPageCipher::decrypt(stored, key, MapPageCipher::programIv(), &error);
+        QVERIFY(wrong.isEmpty() || !wrong.startsWith("<!DOCTYPE html>"));
+
+        // A damaged page in the program: the map area says so, the log too, no web view.
+        MapView map(nullptr, QByteArray(4096, '\x5a'));
+        QVERIFY(map.pageFailed());
+        QVERIFY(map.webView() == nullptr);
+        auto* message = map.findChild<QLabel*>("mapError");
+        QVERIFY(message != nullptr && !message->text().isEmpty());
+        QFile log(AppGlobals::statusLogPath());
+        QVERIFY(log.open(QIODevice::ReadOnly));
+        QVERIFY(log.readAll().contains("[MapView]: The map page cannot be shown"));
+        // Not a whole number of blocks, or a key of the wrong length.
+        QVERIFY(MapPageCipher::decrypt(QByteArray(100, 'x'), MapPageCipher::programKey(),
+                                       MapPageCipher::programIv(), &error)
+                    .isEmpty());
+        QVERIFY(!error.isEmpty());
+        QVERIFY(MapPageCipher::decrypt(QByteArray(96, 'x'), QByteArray(8, 'k'),
+                                       MapPageCipher::programIv(), &error)
+                    .isEmpty());
+    }
+};
+
+TAVORIC_WEB_TEST_MAIN(TestTelemetryViews)
+
+#include "test_telemetryviews.moc"
