@@ -11,7 +11,8 @@ grabbed and the scenes are checked for their pictures:
   - a recording named on the command line (`tools/run.sh FILE`): the front scene shows the
     front camera's red picture, the rear scenes its green and blue ones, and all three move;
   - the bare run command (`tools/run.sh`), which opens the demo recordings: all three scenes
-    show a moving picture, none is black.
+    show a moving picture, none is black; the G-sensor chart shows its three axes, and the
+    map (the side panel's map button) the route and the car, which moves.
 
 The scenes are found from the window's position on the screen and the main window's own
 description file, which places them. The last grab of each case is kept in BUILD/tests/ for
@@ -120,6 +121,63 @@ def entry(view, name):
             item["size"]["height"])
 
 
+def colour(hex_text, tolerance=40):
+    r, g, b = (int(hex_text[i:i + 2], 16) for i in (1, 3, 5))
+    return lambda pr, pg, pb: abs(pr - r) + abs(pg - g) + abs(pb - b) <= tolerance
+
+
+ROUTE_COLOURS = [colour(c) for c in ("#65ca26", "#ffd21f", "#ff8a1f", "#ff3a00")]
+CAR = colour("#2f7cf6")
+AXES = [colour(c, 10) for c in ("#ff3a00", "#318dff", "#65ca26")]
+
+
+def route(r, g, b):
+    return any(test(r, g, b) for test in ROUTE_COLOURS)
+
+
+def check_chart_and_map(window, name):
+    """The G-sensor trace under the buttons, and the map with the route and the car once the
+    side panel's map button is pressed; the car moves along."""
+    wx, wy = window
+    cx, cy, _, _ = entry("MainWindow", "ControlView")
+    ax, ay, aw, ah = entry("PlayControlView", "chartView")
+    chart = (wx + cx + ax, wy + cy + ay, aw, ah)
+    grab = Screen()
+    for axis, test in zip("XYZ", AXES):
+        check(grab.share(chart, test, step=1) > 0.0005,
+              "%s: the chart shows the %s axis" % (name, axis))
+    # A click three quarters along the chart's bar moves playback there: the white position
+    # line follows.
+    bar_x, bar_y, bar_w, bar_h = entry("ChartView", "chartBar")
+    left = chart[0] + bar_x
+    xdotool("mousemove", str(left + bar_w * 3 // 4), str(chart[1] + bar_y + bar_h // 2),
+            "click", "1")
+    time.sleep(2.5)
+    moved = Screen()
+    white = [x for x in range(left, left + bar_w)
+             if moved.pixel(x, chart[1] + bar_y + 3) == (255, 255, 255)]
+    check(bool(white) and abs(white[0] - (left + bar_w * 3 // 4)) < bar_w // 10,
+          "%s: a click on the chart moves playback there (line at %s of %d)" %
+          (name, [x - left for x in white[:3]], bar_w))
+    bx, by, bw, bh = entry("MainWindow", "bMap")
+    xdotool("mousemove", str(wx + bx + bw // 2), str(wy + by + bh // 2), "click", "1")
+    mx, my, mw, mh = entry("MainWindow", "MapView")
+    area = (wx + mx, wy + my, mw, mh)
+    first = None
+    deadline = time.time() + 20
+    while time.time() < deadline:
+        first = Screen()
+        if first.share(area, route, step=2) > 0.0005 and first.share(area, CAR, step=2) > 0.0005:
+            break
+        time.sleep(0.5)
+    check(first.share(area, route, step=2) > 0.0005, "%s: the map shows the route" % name)
+    check(first.share(area, CAR, step=2) > 0.0005, "%s: the map shows the car" % name)
+    time.sleep(2.5)
+    second = Screen()
+    second.save(os.path.join(BUILD, "tests", "firstrun-%s-map.png" % name))
+    check(second.differs(first, area, step=2) > 0.0005, "%s: the car moves on the map" % name)
+
+
 def scene_rects(window_x, window_y):
     """The main scene (without the part the floating rear scenes cover) and the two rear
     scenes, on the screen."""
@@ -203,6 +261,8 @@ def run_case(name, arguments, expectations):
                       (name, index + 1, test.__name__, 100 * second.share(rect, test)))
             check(second.differs(first, rect) > 0.002,
                   "%s: rear scene %d moves" % (name, index + 1))
+        if expectations.get("telemetry"):
+            check_chart_and_map(window, name)
     finally:
         if program.poll() is None:
             program.send_signal(signal.SIGTERM)
@@ -222,7 +282,8 @@ def main():
     os.makedirs(os.path.join(BUILD, "tests"), exist_ok=True)
     run_case("recording", [FRONT_CHANNEL_FILE],
              {"front": [red], "rears": [[green], [blue]]})
-    run_case("demo", [], {"front": [not_black], "rears": [[not_black], [not_black]]})
+    run_case("demo", [], {"front": [not_black], "rears": [[not_black], [not_black]],
+                          "telemetry": True})
     if failures:
         print("%d checks failed" % len(failures))
         sys.exit(1)
