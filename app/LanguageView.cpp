@@ -13,27 +13,16 @@
 int LanguageView::currentIndex = 0;
 
 LanguageView::LanguageView(QWidget* parent)
-    : QDialog(parent, Qt::Dialog | Qt::FramelessWindowHint),
-      m_form(new TavWidget("LanguageView", this)), m_combo(new QComboBox(m_form)) {
+    : TavDialog("LanguageView", parent), m_combo(new QComboBox(form())) {
     logInfo("[LanguageView]: Enter LanguageView class.");
-    setWindowFlags(Qt::Dialog | Qt::FramelessWindowHint);
-    m_form->addChild(m_form, "centralWidget", TavWidget::Style::Panel);
-    if (m_form->designSize().isValid())
-        setFixedSize(m_form->designSize());
+    TavWidget* view = form();
+    view->addChild(new QLabel(view), "context", TavWidget::Style::Label);
+    view->addChild(m_combo, "comboLanguage", TavWidget::Style::Label);
+    auto* ok = new QPushButton(view);
+    auto* cancel = new QPushButton(view);
+    view->addChild(ok, "bOk", TavWidget::Style::Button);
+    view->addChild(cancel, "bCancel", TavWidget::Style::Button);
 
-    auto* top = new QWidget(m_form);
-    m_form->addChild(top, "topWidget", TavWidget::Style::Panel);
-    m_form->addChild(new QLabel(top), "DlgName", TavWidget::Style::Label);
-    auto* close = new QPushButton(top);
-    m_form->addChild(close, "bClose", TavWidget::Style::Button);
-    m_form->addChild(new QLabel(m_form), "context", TavWidget::Style::Label);
-    m_form->addChild(m_combo, "comboLanguage", TavWidget::Style::Label);
-    auto* ok = new QPushButton(m_form);
-    auto* cancel = new QPushButton(m_form);
-    m_form->addChild(ok, "bOk", TavWidget::Style::Button);
-    m_form->addChild(cancel, "bCancel", TavWidget::Style::Button);
-
-    connect(close, &QPushButton::clicked, this, &QDialog::close);
     connect(cancel, &QPushButton::clicked, this, &QDialog::close);
     connect(ok, &QPushButton::clicked, this, &LanguageView::changeLanguage);
 
@@ -55,7 +44,7 @@ LanguageView::LanguageView(QWidget* parent)
 }
 
 void LanguageView::retranslateUi() {
-    m_form->retranslate();
+    form()->retranslate();
 }
 
 void LanguageView::changeLanguage() {

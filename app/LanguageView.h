@@ -1,16 +1,13 @@
 #pragma once
 
-#include <QDialog>
+#include "TavDialog.h"
 
 class QComboBox;
-class QLabel;
-class QPushButton;
-class TavWidget;
 
 // The small dialog in which the user picks the interface language. A new choice replaces
 // the installed translation at once and tells the main window, which has every view re-read
 // its texts.
-class LanguageView : public QDialog {
+class LanguageView : public TavDialog {
     Q_OBJECT
 public:
     explicit LanguageView(QWidget* parent = nullptr);
@@ -26,6 +23,5 @@ public slots:
     void retranslateUi();
 
 private:
-    TavWidget* m_form;
     QComboBox* m_combo;
 };

@@ -9,8 +9,10 @@
 #include "PlayControlView.h"
 #include "PlayScreenWindow.h"
 #include "PlayerInterface.h"
+#include "PrintChannelSelectView.h"
+#include "ReportScene.h"
 #include "RightSideView.h"
-#include "SnapshotWriter.h"
+#include "SaveAsView.h"
 #include "StatusLog.h"
 #include "SubPlayerWindow.h"
 #include "SubSceneBackWidget.h"
@@ -49,6 +51,7 @@ MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent) {
     AppGlobals::mute = AppGlobals::settings->value("mute", AppGlobals::mute).toBool();
     AppGlobals::snapshotPath = AppGlobals::settings->value("snapshotPath").toString();
     AppGlobals::videoPath = AppGlobals::settings->value("videoPath").toString();
+    AppGlobals::speedUnit = AppGlobals::settings->value("speedUnit", AppGlobals::speedUnit).toInt();
 
     checkAgreement();
     if (!m_agreementAccepted) {
@@ -230,6 +233,10 @@ void MainWindow::connectViews() {
                 &MainWindow::openLangaugeDlg);
         connect(this, &MainWindow::onSendChangeLanguage, m_shortcuts,
                 &TavShortcutTable::onChangeToolTipLanguage);
+        connect(m_shortcuts, &TavShortcutTable::onSendSignalPrint, this, &MainWindow::openPrintDlg);
+        if (enabled("ControlView"))
+            connect(m_shortcuts, &TavShortcutTable::onSendCapture, m_control,
+                    &PlayControlView::onClick_bCapture);
     }
     connect(m_player, &PlayerInterface::onSendShowWindow, this, &MainWindow::onShowPlayWindow);
     if (enabled("fileList")) {
@@ -495,33 +502,75 @@ void MainWindow::onChangeSceneView(int slot) {
     m_control->setFlipChannel(subId);
 }
 
+bool MainWindow::hasRecording() const {
+    return PlayerInterface::playStatus == PlayerInterface::PlayRunning ||
+           PlayerInterface::playStatus == PlayerInterface::PlayPaused;
+}
+
+bool MainWindow::pauseForDialog() {
+    if (PlayerInterface::playStatus != PlayerInterface::PlayRunning)
+        return false;
+    m_control->onSetPause();
+    return true;
+}
+
+void MainWindow::resumeAfterDialog(bool paused, const QString& file) {
+    if (paused && PlayerInterface::playStatus == PlayerInterface::PlayPaused &&
+        PlayerInterface::currentFile == file)
+        m_control->onClick_bPlay();
+}
+
 void MainWindow::onGetImage() {
     logDebug("MainWindow::onGetImage");
-    if (PlayerInterface::playStatus != PlayerInterface::PlayRunning &&
-        PlayerInterface::playStatus != PlayerInterface::PlayPaused)
+    if (!hasRecording())
         return;
-    const QString folder = AppGlobals::snapshotPath.isEmpty() ? SnapshotWriter::defaultFolder()
-                                                              : AppGlobals::snapshotPath;
-    const QString name = QFileInfo(PlayerInterface::currentFile).fileName();
-    const double position = m_player->engine()->GetPosition();
-    QStringList failures;
+    const QString file = PlayerInterface::currentFile;
+    const bool paused = pauseForDialog();
+    SaveAsView dialog(this);
     for (int channel = 0;
          channel < PlayerInterface::playChannelCount && channel < VLCComponent::kMaxChannels;
-         ++channel) {
-        const QString path = SnapshotWriter::fileName(folder, name, channel, position);
-        QString error;
-        if (!SnapshotWriter::save(m_player->getScreenImage(channel), path, &error)) {
-            logWarning("[MainWindow]: snapshot %s not saved: %s", path.toLocal8Bit().constData(),
-                       error.toLocal8Bit().constData());
-            failures << QStringLiteral("%1: %2").arg(QDir::toNativeSeparators(path), error);
-        }
+         ++channel)
+        dialog.setImage(channel, m_player->getScreenImage(channel));
+    dialog.setPosition(m_player->engine()->GetPosition());
+    dialog.move(geometry().center() - dialog.rect().center());
+    dialog.exec();
+    resumeAfterDialog(paused, file);
+}
+
+void MainWindow::openPrintDlg() {
+    logDebug("MainWindow::openPrintDlg");
+    if (!hasRecording()) {
+        TavPrompt::inform(this, tr("Play a recording to print its report."));
+        return;
     }
-    if (failures.isEmpty()) {
-        AppGlobals::snapshotPath = folder;
-        TavPrompt::inform(this, tr("Complete to Save Snapshot!"));
-    } else {
-        TavPrompt::inform(this, tr("Snapshot not saved:") + "\n" + failures.join('\n'));
+    const bool paused = pauseForDialog();
+    // The report takes the map as it shows: a hidden map is shown first and given a moment
+    // to draw.
+    if (PlayerInterface::gpsPresent && enabled("MapView") && enabled("bMap") &&
+        !m_mapButton->isChecked()) {
+        onRaiseMap();
+        QTimer::singleShot(kMapDrawMs, this, [this, paused] { showPrintDialogs(paused); });
+        return;
     }
+    showPrintDialogs(paused);
+}
+
+void MainWindow::showPrintDialogs(bool paused) {
+    if (!hasRecording())
+        return;
+    const QString file = PlayerInterface::currentFile;
+    ReportScene scene = ReportScene::fromPlayback(QString(), AppGlobals::speedUnit);
+    if (PlayerInterface::gpsPresent && enabled("MapView"))
+        scene.mapImage = m_map->currentPicture();
+    PrintChannelSelectView dialog(this);
+    dialog.setScene(scene);
+    for (int channel = 0;
+         channel < PlayerInterface::playChannelCount && channel < VLCComponent::kMaxChannels;
+         ++channel)
+        dialog.setImage(channel, m_player->getScreenImage(channel));
+    dialog.move(geometry().center() - dialog.rect().center());
+    dialog.exec();
+    resumeAfterDialog(paused, file);
 }
 
 void MainWindow::restoreScenes() {

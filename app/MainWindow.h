@@ -32,6 +32,8 @@ class MainWindow : public QMainWindow {
 public:
     static constexpr int kInitialWidth = 1366;
     static constexpr int kInitialHeight = 768;
+    // How long a map that was hidden gets to draw before the report takes its picture.
+    static constexpr int kMapDrawMs = 600;
 
     explicit MainWindow(QWidget* parent = nullptr);
     ~MainWindow() override;
@@ -80,6 +82,7 @@ public slots:
     void onChangeTextByLanguage();
     // Saves the picture each camera shows now into the snapshot folder.
     void onGetImage();
+    void openPrintDlg();
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -97,6 +100,13 @@ private:
     void connectTelemetryViews();
     void makeShortcuts();
     void saveSettings();
+    // A recording is open in the players (playing or paused).
+    bool hasRecording() const;
+    // Dialogs about the current picture hold playback while they are open; true when this
+    // one paused it, so that it plays on afterwards.
+    bool pauseForDialog();
+    void resumeAfterDialog(bool paused, const QString& file);
+    void showPrintDialogs(bool paused);
     void removeDataFolderLeftovers();
     // Connects a row of the wiring only when both ends are built and enabled.
     bool enabled(const char* entry) const;

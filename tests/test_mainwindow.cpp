@@ -66,7 +66,7 @@ private slots:
         QVERIFY(child<QPushButton>("bLanguage")->isEnabled());
         auto* column = m_window->findChild<TavShortcutTable*>();
         QVERIFY(column);
-        for (const char* absent : {"bMemory", "bPrint", "bSetting", "bAbout", "bCapture"}) {
+        for (const char* absent : {"bMemory", "bSetting", "bAbout"}) {
             auto* button = column->findChild<QPushButton*>(absent);
             QVERIFY2(button == nullptr || (!button->isVisible() && !button->isEnabled()), absent);
         }

@@ -6,21 +6,32 @@
 #include "MainWindow.h"
 #include "PlayScreenWindow.h"
 #include "PlayerInterface.h"
+#include "PrintChannelSelectView.h"
+#include "PrintView.h"
+#include "SaveAsView.h"
 #include "SubPlayerWindow.h"
 #include "TavFileListItem.h"
 #include "TavPrompt.h"
 #include "TopBar.h"
 #include "VLCComponent.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QGuiApplication>
+#include <QLineEdit>
+#include <QProcess>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QScreen>
 #include <QSettings>
 #include <QTableWidgetItem>
 #include <QTemporaryDir>
+#include <QTimer>
 #include <QTranslator>
 #include <QtTest>
+
+#include <functional>
+#include <memory>
 
 #include "WebTestMain.h"
 
@@ -66,6 +77,22 @@ bool isGreen(QRgb c) {
 }
 bool isBlue(QRgb c) {
     return qBlue(c) > 150 && qRed(c) < 100 && qGreen(c) < 100;
+}
+// Acts on the modal dialog of type T once it is up, from inside its own event loop, as a
+// user would; gives up after ten seconds.
+template <typename T> void whenModal(std::function<void(T*)> act) {
+    auto* timer = new QTimer;
+    auto tries = std::make_shared<int>(0);
+    QObject::connect(timer, &QTimer::timeout, [timer, act, tries] {
+        auto* dialog = qobject_cast<T*>(QApplication::activeModalWidget());
+        if (dialog == nullptr && ++*tries < 200)
+            return;
+        timer->stop();
+        timer->deleteLater();
+        if (dialog != nullptr)
+            act(dialog);
+    });
+    timer->start(50);
 }
 } // namespace
 
@@ -180,15 +207,24 @@ private slots:
         QTRY_COMPARE_WITH_TIMEOUT(frameNumberSide(main, true), -1, 5000);
         QVERIFY(isRed(screenColour(main)));
 
-        // Capture saves the picture of every camera as it is shown, mirrored or not.
+        // Capture offers the picture of every camera as it is shown, mirrored or not, and
+        // saves the chosen ones.
         QTemporaryDir pictures;
-        AppGlobals::snapshotPath = pictures.path();
         QStringList messages;
         TavPrompt::informHook = [&messages](const QString& text) { messages << text; };
+        whenModal<SaveAsView>([&pictures](SaveAsView* dialog) {
+            dialog->findChild<QPushButton*>("bSaveSnapshot")->click();
+            dialog->findChild<QLineEdit*>("editPath")->setText(pictures.path());
+            dialog->findChild<QPushButton*>("bSave")->click();
+        });
         QTest::mouseClick(m_window->findChild<QPushButton*>("bCapture"), Qt::LeftButton);
         TavPrompt::informHook = nullptr;
+        QCOMPARE(messages.size(), 1);
+        QVERIFY2(messages.at(0).startsWith("Complete to Save Snapshot!"),
+                 qPrintable(messages.at(0)));
+        QCOMPARE(AppGlobals::snapshotPath, pictures.path());
         AppGlobals::snapshotPath.clear();
-        QCOMPARE(messages, QStringList{"Complete to Save Snapshot!"});
+        QCOMPARE(PlayerInterface::playStatus, int(PlayerInterface::PlayPaused));
         const QStringList files =
             QDir(pictures.path()).entryList({"*.jpg"}, QDir::Files, QDir::Name);
         QCOMPARE(files.size(), 3);
@@ -202,6 +238,32 @@ private slots:
             QVERIFY(colours[i](image.pixel(960, 540)));
             QCOMPARE(frameNumberSide(image, image.rect(), i == 0), sides[i]);
         }
+
+        // The report of a rear camera, saved as PDF, shows that camera's picture.
+        QTemporaryDir reports;
+        const QString pdf = reports.filePath("report.pdf");
+        TavPrompt::informHook = [&messages](const QString& text) { messages << text; };
+        TavPrompt::saveFileHook = [&pdf](const QString&) { return pdf; };
+        whenModal<PrintChannelSelectView>([](PrintChannelSelectView* choice) {
+            whenModal<PrintView>([](PrintView* report) {
+                report->findChild<QPushButton*>("bSavePdf")->click();
+                report->findChild<QPushButton*>("bCancel")->click();
+            });
+            choice->findChild<QRadioButton*>("item3")->click();
+            choice->findChild<QPushButton*>("bOk")->click();
+        });
+        QTest::mouseClick(m_window->findChild<QPushButton*>("bPrint"), Qt::LeftButton);
+        TavPrompt::informHook = nullptr;
+        TavPrompt::saveFileHook = nullptr;
+        QVERIFY2(messages.last().startsWith("The report is saved:"), qPrintable(messages.last()));
+        QProcess pdftoppm;
+        pdftoppm.start("pdftoppm",
+                       {"-r", "48", "-png", "-singlefile", pdf, reports.filePath("page")});
+        QVERIFY(pdftoppm.waitForFinished(30000));
+        const QImage page(reports.filePath("page.png"));
+        QVERIFY(!page.isNull());
+        QVERIFY(isBlue(page.pixel(page.width() / 2, page.height() / 4)));
+        QCOMPARE(PlayerInterface::playStatus, int(PlayerInterface::PlayPaused));
 
         // Back as recorded, and playing on in step.
         QTest::mouseClick(rear1->findChild<QPushButton*>("bFlip"), Qt::LeftButton);

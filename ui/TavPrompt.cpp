@@ -13,6 +13,7 @@ std::function<void(const QString&)> TavPrompt::informHook;
 std::function<bool(const QString&)> TavPrompt::askHook;
 std::function<QStringList()> TavPrompt::openFilesHook;
 std::function<QString()> TavPrompt::openFolderHook;
+std::function<QString(const QString&)> TavPrompt::saveFileHook;
 
 namespace {
 
@@ -140,6 +141,17 @@ QString TavPrompt::openFolder(QWidget* parent, const QString& caption) {
     QFileDialog dialog(parent, caption);
     dialog.setFileMode(QFileDialog::Directory);
     dialog.setOption(QFileDialog::ShowDirsOnly);
+    dress(dialog);
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+}
+
+QString TavPrompt::saveFile(QWidget* parent, const QString& caption, const QString& path,
+                            const QString& filter) {
+    if (saveFileHook)
+        return saveFileHook(path);
+    QFileDialog dialog(parent, caption, path, filter);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setFileMode(QFileDialog::AnyFile);
     dress(dialog);
     return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }

@@ -21,6 +21,10 @@ public:
                                  const QString& filter);
     // One folder; empty when cancelled.
     static QString openFolder(QWidget* parent, const QString& caption);
+    // A file to write, starting at `path`; the system asks before replacing one. Empty when
+    // cancelled.
+    static QString saveFile(QWidget* parent, const QString& caption, const QString& path,
+                            const QString& filter);
 
     // The style sheet of the program's message boxes and dialogs, read from the description
     // anew each time (empty when the description is missing: Qt's own look then).
@@ -31,4 +35,5 @@ public:
     static std::function<bool(const QString& text)> askHook;
     static std::function<QStringList()> openFilesHook;
     static std::function<QString()> openFolderHook;
+    static std::function<QString(const QString& path)> saveFileHook;
 };

@@ -38,6 +38,12 @@ bool TavWidget::addChild(QWidget* child, const QString& name, Style style) {
     case Style::Label:
         sheet = UiApplier::labelStyleSheet(item, child->metaObject()->className());
         break;
+    case Style::Field:
+        sheet = UiApplier::fieldStyleSheet(item, child->metaObject()->className());
+        break;
+    case Style::Choice:
+        sheet = UiApplier::choiceStyleSheet(item, images, child->metaObject()->className());
+        break;
     case Style::None:
         break;
     }
@@ -46,7 +52,7 @@ bool TavWidget::addChild(QWidget* child, const QString& name, Style style) {
     if (enabled) {
         m_children.insert(name, child);
         m_layout.add(child, item);
-        if (style == Style::Button)
+        if (style == Style::Button || style == Style::Choice)
             child->setCursor(Qt::PointingHandCursor);
     }
     return enabled;

@@ -16,7 +16,8 @@
 class TavWidget : public QWidget {
     Q_OBJECT
 public:
-    enum class Style { Panel, Button, Label, None };
+    // Field: a line edit, text box or progress bar; Choice: a check box or radio button.
+    enum class Style { Panel, Button, Label, Field, Choice, None };
 
     TavWidget(const QString& viewName, QWidget* parent = nullptr);
 

@@ -102,3 +102,37 @@ QString UiApplier::labelStyleSheet(const UiItem& item, const QString& selector) 
     return QStringLiteral("%1{border: none; background: %2; color: %3;}")
         .arg(selector, background, item.textColor[UiItem::Default]);
 }
+
+QString UiApplier::fieldStyleSheet(const UiItem& item, const QString& selector) {
+    const QString background =
+        isSet(item.color[UiItem::Default]) ? item.color[UiItem::Default] : "transparent";
+    const QString border = isSet(item.border[UiItem::Default]) ? item.border[UiItem::Default]
+                                                               : QStringLiteral("#3a4150");
+    const QString accent =
+        isSet(item.color[UiItem::Select]) ? item.color[UiItem::Select] : QStringLiteral("#2f7cf6");
+    return QStringLiteral("%1{background: %2; color: %3; border: 1px solid %4; border-radius: 3px; "
+                          "padding: 0px 6px; selection-background-color: %5; "
+                          "selection-color: #ffffff;} %1:focus{border-color: %5;} "
+                          "%1:disabled{color: #6b7280;} %1::chunk{background: %5; "
+                          "border-radius: 2px;}")
+        .arg(selector, background, item.textColor[UiItem::Default], border, accent);
+}
+
+QString UiApplier::choiceStyleSheet(const UiItem& item, const QString& imageFolder,
+                                    const QString& selector) {
+    const QString radius =
+        selector.contains(QLatin1String("Radio")) ? QStringLiteral("8px") : QStringLiteral("3px");
+    QString sheet = labelStyleSheet(item, selector) +
+                    QStringLiteral(" %1{spacing: 8px;} %1::indicator{width: 16px; height: 16px; "
+                                   "border: 1px solid #8a93a3; border-radius: %2; "
+                                   "background: transparent;} %1:disabled{color: #6b7280;}")
+                        .arg(selector, radius);
+    if (isSet(item.image[UiItem::Select]))
+        sheet += QStringLiteral(" %1::indicator:checked{border: none; image: %2;}")
+                     .arg(selector, imageUrl(imageFolder, item.image[UiItem::Select]));
+    else
+        sheet += QStringLiteral(" %1::indicator:checked{background: %2; border-color: %2;}")
+                     .arg(selector, isSet(item.color[UiItem::Select]) ? item.color[UiItem::Select]
+                                                                      : QStringLiteral("#2f7cf6"));
+    return sheet;
+}

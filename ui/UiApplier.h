@@ -28,4 +28,15 @@ public:
     // Plain text: Default text colour and background, no image.
     static QString labelStyleSheet(const UiItem& item,
                                    const QString& selector = QStringLiteral("QLabel"));
+
+    // A field the user types into (or a bar that fills): Default background and text colour,
+    // a thin Default border that takes the Select colour while the field has the focus, and
+    // the Select colour for selected text and for the filled part of a progress bar.
+    static QString fieldStyleSheet(const UiItem& item,
+                                   const QString& selector = QStringLiteral("QLineEdit"));
+
+    // A check box or radio button: its text as a label, an outlined indicator (round for a
+    // radio button) that shows the Select image when checked.
+    static QString choiceStyleSheet(const UiItem& item, const QString& imageFolder,
+                                    const QString& selector = QStringLiteral("QCheckBox"));
 };

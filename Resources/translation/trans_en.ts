@@ -2,6 +2,32 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en_US">
   <context>
+    <name>ChannelChoices</name>
+    <message>
+      <source>No picture</source>
+      <translation>No picture</translation>
+    </message>
+  </context>
+  <context>
+    <name>FfmpegRunner</name>
+    <message>
+      <source>the file there cannot be moved aside.</source>
+      <translation>the file there cannot be moved aside.</translation>
+    </message>
+    <message>
+      <source>ffmpeg stopped unexpectedly.</source>
+      <translation>ffmpeg stopped unexpectedly.</translation>
+    </message>
+    <message>
+      <source>ffmpeg ended with code %1.</source>
+      <translation>ffmpeg ended with code %1.</translation>
+    </message>
+    <message>
+      <source>ffmpeg cannot be started: %1</source>
+      <translation>ffmpeg cannot be started: %1</translation>
+    </message>
+  </context>
+  <context>
     <name>LanguageView</name>
     <message>
       <source>English </source>
@@ -15,12 +41,8 @@
   <context>
     <name>MainWindow</name>
     <message>
-      <source>Complete to Save Snapshot!</source>
-      <translation>Complete to Save Snapshot!</translation>
-    </message>
-    <message>
-      <source>Snapshot not saved:</source>
-      <translation>Snapshot not saved:</translation>
+      <source>Play a recording to print its report.</source>
+      <translation>Play a recording to print its report.</translation>
     </message>
   </context>
   <context>
@@ -87,6 +109,162 @@
     <message>
       <source>Frm</source>
       <translation>Frm</translation>
+    </message>
+  </context>
+  <context>
+    <name>PrintChannelSelectView</name>
+    <message>
+      <source>There is not selected channel!</source>
+      <translation>There is not selected channel!</translation>
+    </message>
+  </context>
+  <context>
+    <name>PrintView</name>
+    <message>
+      <source>The file cannot be written there.</source>
+      <translation>The file cannot be written there.</translation>
+    </message>
+    <message>
+      <source>The file there cannot be replaced.</source>
+      <translation>The file there cannot be replaced.</translation>
+    </message>
+    <message>
+      <source>Save as PDF</source>
+      <translation>Save as PDF</translation>
+    </message>
+    <message>
+      <source>PDF (*.pdf)</source>
+      <translation>PDF (*.pdf)</translation>
+    </message>
+    <message>
+      <source>The report was not saved:</source>
+      <translation>The report was not saved:</translation>
+    </message>
+    <message>
+      <source>The report is saved:</source>
+      <translation>The report is saved:</translation>
+    </message>
+  </context>
+  <context>
+    <name>ReportPage</name>
+    <message>
+      <source>FileName: </source>
+      <translation>FileName: </translation>
+    </message>
+    <message>
+      <source>Date: </source>
+      <translation>Date: </translation>
+    </message>
+    <message>
+      <source>Model Name: </source>
+      <translation>Model Name: </translation>
+    </message>
+    <message>
+      <source>GPS:</source>
+      <translation>GPS:</translation>
+    </message>
+    <message>
+      <source>Speed: </source>
+      <translation>Speed: </translation>
+    </message>
+    <message>
+      <source>G-Senor: X:</source>
+      <translation>G-Senor: X:</translation>
+    </message>
+    <message>
+      <source>Memo: </source>
+      <translation>Memo: </translation>
+    </message>
+    <message>
+      <source>Report</source>
+      <translation>Report</translation>
+    </message>
+  </context>
+  <context>
+    <name>SaveAsView</name>
+    <message>
+      <source>There is no select channel</source>
+      <translation>There is no select channel</translation>
+    </message>
+    <message>
+      <source>Search Folder</source>
+      <translation>Search Folder</translation>
+    </message>
+    <message>
+      <source>File Setting</source>
+      <translation>File Setting</translation>
+    </message>
+    <message>
+      <source>Choose Save Scene</source>
+      <translation>Choose Save Scene</translation>
+    </message>
+    <message>
+      <source>Choose the folder to save to.</source>
+      <translation>Choose the folder to save to.</translation>
+    </message>
+    <message>
+      <source>The folder %1 cannot be made.</source>
+      <translation>The folder %1 cannot be made.</translation>
+    </message>
+    <message>
+      <source>Complete to Save Snapshot!</source>
+      <translation>Complete to Save Snapshot!</translation>
+    </message>
+    <message>
+      <source>Snapshot not saved:</source>
+      <translation>Snapshot not saved:</translation>
+    </message>
+    <message>
+      <source>Saved:</source>
+      <translation>Saved:</translation>
+    </message>
+    <message>
+      <source>The video cannot be saved: the ffmpeg program is missing. It belongs in %1 or on the PATH.</source>
+      <translation>The video cannot be saved: the ffmpeg program is missing. It belongs in %1 or on the PATH.</translation>
+    </message>
+    <message>
+      <source>%1 is the recording itself. Choose another folder to save the video to.</source>
+      <translation>%1 is the recording itself. Choose another folder to save the video to.</translation>
+    </message>
+    <message>
+      <source>The files of the chosen cameras are not there any more.</source>
+      <translation>The files of the chosen cameras are not there any more.</translation>
+    </message>
+    <message>
+      <source>These files exist already:</source>
+      <translation>These files exist already:</translation>
+    </message>
+    <message>
+      <source>Replace them?</source>
+      <translation>Replace them?</translation>
+    </message>
+    <message>
+      <source>Saving channel %1 of %2...</source>
+      <translation>Saving channel %1 of %2...</translation>
+    </message>
+    <message>
+      <source>Channel %1 has no file to save.</source>
+      <translation>Channel %1 has no file to save.</translation>
+    </message>
+    <message>
+      <source>Complete File Download!</source>
+      <translation>Complete File Download!</translation>
+    </message>
+    <message>
+      <source>The video was not saved.</source>
+      <translation>The video was not saved.</translation>
+    </message>
+    <message>
+      <source>Saved before that:</source>
+      <translation>Saved before that:</translation>
+    </message>
+    <message>
+      <source>Cancelled. The unfinished file was removed.</source>
+      <translation>Cancelled. The unfinished file was removed.</translation>
+    </message>
+    <message>
+      <source>The video is still being saved. Stop saving it?</source>
+      <translation>The video is still being saved. Stop saving it?</translation>
     </message>
   </context>
   <context>
@@ -303,6 +481,139 @@
     <message>
       <source>2x</source>
       <translation>2x</translation>
+    </message>
+  </context>
+  <context>
+    <name>ui_printChannelSelectView</name>
+    <message>
+      <source>Print</source>
+      <translation>Print</translation>
+    </message>
+    <message>
+      <source>Choose the camera whose picture goes into the report</source>
+      <translation>Choose the camera whose picture goes into the report</translation>
+    </message>
+    <message>
+      <source>Channel 1</source>
+      <translation>Channel 1</translation>
+    </message>
+    <message>
+      <source>Channel 2</source>
+      <translation>Channel 2</translation>
+    </message>
+    <message>
+      <source>Channel 3</source>
+      <translation>Channel 3</translation>
+    </message>
+    <message>
+      <source>Channel 4</source>
+      <translation>Channel 4</translation>
+    </message>
+    <message>
+      <source>Channel 5</source>
+      <translation>Channel 5</translation>
+    </message>
+    <message>
+      <source>Next</source>
+      <translation>Next</translation>
+    </message>
+    <message>
+      <source>Cancel</source>
+      <translation>Cancel</translation>
+    </message>
+  </context>
+  <context>
+    <name>ui_printView</name>
+    <message>
+      <source>Report</source>
+      <translation>Report</translation>
+    </message>
+    <message>
+      <source>Memo</source>
+      <translation>Memo</translation>
+    </message>
+    <message>
+      <source>The memo is printed on the last line of the report.</source>
+      <translation>The memo is printed on the last line of the report.</translation>
+    </message>
+    <message>
+      <source>Print</source>
+      <translation>Print</translation>
+    </message>
+    <message>
+      <source>Save as PDF</source>
+      <translation>Save as PDF</translation>
+    </message>
+    <message>
+      <source>Close</source>
+      <translation>Close</translation>
+    </message>
+  </context>
+  <context>
+    <name>ui_saveAsView</name>
+    <message>
+      <source>Choose Save Scene</source>
+      <translation>Choose Save Scene</translation>
+    </message>
+    <message>
+      <source>Choose the cameras to save</source>
+      <translation>Choose the cameras to save</translation>
+    </message>
+    <message>
+      <source>Channel 1</source>
+      <translation>Channel 1</translation>
+    </message>
+    <message>
+      <source>Channel 2</source>
+      <translation>Channel 2</translation>
+    </message>
+    <message>
+      <source>Channel 3</source>
+      <translation>Channel 3</translation>
+    </message>
+    <message>
+      <source>Channel 4</source>
+      <translation>Channel 4</translation>
+    </message>
+    <message>
+      <source>Channel 5</source>
+      <translation>Channel 5</translation>
+    </message>
+    <message>
+      <source>Save Snapshot</source>
+      <translation>Save Snapshot</translation>
+    </message>
+    <message>
+      <source>Save Video</source>
+      <translation>Save Video</translation>
+    </message>
+    <message>
+      <source>Save to this folder</source>
+      <translation>Save to this folder</translation>
+    </message>
+    <message>
+      <source>File type</source>
+      <translation>File type</translation>
+    </message>
+    <message>
+      <source>MP4</source>
+      <translation>MP4</translation>
+    </message>
+    <message>
+      <source>AVI</source>
+      <translation>AVI</translation>
+    </message>
+    <message>
+      <source>Back</source>
+      <translation>Back</translation>
+    </message>
+    <message>
+      <source>Save</source>
+      <translation>Save</translation>
+    </message>
+    <message>
+      <source>Cancel</source>
+      <translation>Cancel</translation>
     </message>
   </context>
   <context>

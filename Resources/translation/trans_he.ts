@@ -2,6 +2,32 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="he_IL">
   <context>
+    <name>ChannelChoices</name>
+    <message>
+      <source>No picture</source>
+      <translation>אין תמונה</translation>
+    </message>
+  </context>
+  <context>
+    <name>FfmpegRunner</name>
+    <message>
+      <source>the file there cannot be moved aside.</source>
+      <translation>לא ניתן להזיז את הקובץ שנמצא שם.</translation>
+    </message>
+    <message>
+      <source>ffmpeg stopped unexpectedly.</source>
+      <translation>ffmpeg נעצר באופן בלתי צפוי.</translation>
+    </message>
+    <message>
+      <source>ffmpeg ended with code %1.</source>
+      <translation>ffmpeg הסתיים עם קוד %1.</translation>
+    </message>
+    <message>
+      <source>ffmpeg cannot be started: %1</source>
+      <translation>לא ניתן להפעיל את ffmpeg: %1</translation>
+    </message>
+  </context>
+  <context>
     <name>LanguageView</name>
     <message>
       <source>English </source>
@@ -15,12 +41,8 @@
   <context>
     <name>MainWindow</name>
     <message>
-      <source>Complete to Save Snapshot!</source>
-      <translation>שמירת התמונה הושלמה!</translation>
-    </message>
-    <message>
-      <source>Snapshot not saved:</source>
-      <translation>התמונה לא נשמרה:</translation>
+      <source>Play a recording to print its report.</source>
+      <translation>הפעל הקלטה כדי להדפיס את הדוח שלה.</translation>
     </message>
   </context>
   <context>
@@ -90,10 +112,166 @@
     </message>
   </context>
   <context>
+    <name>PrintChannelSelectView</name>
+    <message>
+      <source>There is not selected channel!</source>
+      <translation>לא נבחר ערוץ!</translation>
+    </message>
+  </context>
+  <context>
+    <name>PrintView</name>
+    <message>
+      <source>The file cannot be written there.</source>
+      <translation>לא ניתן לכתוב את הקובץ שם.</translation>
+    </message>
+    <message>
+      <source>The file there cannot be replaced.</source>
+      <translation>לא ניתן להחליף את הקובץ שנמצא שם.</translation>
+    </message>
+    <message>
+      <source>Save as PDF</source>
+      <translation>שמירה כ-PDF</translation>
+    </message>
+    <message>
+      <source>PDF (*.pdf)</source>
+      <translation>PDF (*.pdf)</translation>
+    </message>
+    <message>
+      <source>The report was not saved:</source>
+      <translation>הדוח לא נשמר:</translation>
+    </message>
+    <message>
+      <source>The report is saved:</source>
+      <translation>הדוח נשמר:</translation>
+    </message>
+  </context>
+  <context>
     <name>QGuiApplication</name>
     <message>
       <source>QT_LAYOUT_DIRECTION</source>
       <translation>RTL</translation>
+    </message>
+  </context>
+  <context>
+    <name>ReportPage</name>
+    <message>
+      <source>FileName: </source>
+      <translation>שם קובץ: </translation>
+    </message>
+    <message>
+      <source>Date: </source>
+      <translation>תאריך: </translation>
+    </message>
+    <message>
+      <source>Model Name: </source>
+      <translation>שם דגם: </translation>
+    </message>
+    <message>
+      <source>GPS:</source>
+      <translation>GPS:</translation>
+    </message>
+    <message>
+      <source>Speed: </source>
+      <translation>מהירות: </translation>
+    </message>
+    <message>
+      <source>G-Senor: X:</source>
+      <translation>חיישן G: X:</translation>
+    </message>
+    <message>
+      <source>Memo: </source>
+      <translation>הערה: </translation>
+    </message>
+    <message>
+      <source>Report</source>
+      <translation>דוח</translation>
+    </message>
+  </context>
+  <context>
+    <name>SaveAsView</name>
+    <message>
+      <source>There is no select channel</source>
+      <translation>לא נבחר ערוץ</translation>
+    </message>
+    <message>
+      <source>Search Folder</source>
+      <translation>חיפוש תיקייה</translation>
+    </message>
+    <message>
+      <source>File Setting</source>
+      <translation>הגדרות קובץ</translation>
+    </message>
+    <message>
+      <source>Choose Save Scene</source>
+      <translation>בחירת סצנה לשמירה</translation>
+    </message>
+    <message>
+      <source>Choose the folder to save to.</source>
+      <translation>בחר את התיקייה לשמירה.</translation>
+    </message>
+    <message>
+      <source>The folder %1 cannot be made.</source>
+      <translation>לא ניתן ליצור את התיקייה %1.</translation>
+    </message>
+    <message>
+      <source>Complete to Save Snapshot!</source>
+      <translation>שמירת התמונה הושלמה!</translation>
+    </message>
+    <message>
+      <source>Snapshot not saved:</source>
+      <translation>התמונה לא נשמרה:</translation>
+    </message>
+    <message>
+      <source>Saved:</source>
+      <translation>נשמר:</translation>
+    </message>
+    <message>
+      <source>The video cannot be saved: the ffmpeg program is missing. It belongs in %1 or on the PATH.</source>
+      <translation>לא ניתן לשמור את הווידאו: התוכנה ffmpeg חסרה. מקומה ב-%1 או ב-PATH.</translation>
+    </message>
+    <message>
+      <source>%1 is the recording itself. Choose another folder to save the video to.</source>
+      <translation>%1 הוא ההקלטה עצמה. בחר תיקייה אחרת לשמירת הווידאו.</translation>
+    </message>
+    <message>
+      <source>The files of the chosen cameras are not there any more.</source>
+      <translation>הקבצים של המצלמות שנבחרו כבר אינם שם.</translation>
+    </message>
+    <message>
+      <source>These files exist already:</source>
+      <translation>הקבצים האלה כבר קיימים:</translation>
+    </message>
+    <message>
+      <source>Replace them?</source>
+      <translation>להחליף אותם?</translation>
+    </message>
+    <message>
+      <source>Saving channel %1 of %2...</source>
+      <translation>שומר ערוץ %1 מתוך %2...</translation>
+    </message>
+    <message>
+      <source>Channel %1 has no file to save.</source>
+      <translation>לערוץ %1 אין קובץ לשמירה.</translation>
+    </message>
+    <message>
+      <source>Complete File Download!</source>
+      <translation>הורדת הקובץ הושלמה!</translation>
+    </message>
+    <message>
+      <source>The video was not saved.</source>
+      <translation>הווידאו לא נשמר.</translation>
+    </message>
+    <message>
+      <source>Saved before that:</source>
+      <translation>נשמרו לפני כן:</translation>
+    </message>
+    <message>
+      <source>Cancelled. The unfinished file was removed.</source>
+      <translation>בוטל. הקובץ שלא הושלם נמחק.</translation>
+    </message>
+    <message>
+      <source>The video is still being saved. Stop saving it?</source>
+      <translation>הווידאו עדיין נשמר. להפסיק את השמירה?</translation>
     </message>
   </context>
   <context>
@@ -310,6 +488,139 @@
     <message>
       <source>2x</source>
       <translation>2x</translation>
+    </message>
+  </context>
+  <context>
+    <name>ui_printChannelSelectView</name>
+    <message>
+      <source>Print</source>
+      <translation>הדפסה</translation>
+    </message>
+    <message>
+      <source>Choose the camera whose picture goes into the report</source>
+      <translation>בחר את המצלמה שהתמונה שלה תיכנס לדוח</translation>
+    </message>
+    <message>
+      <source>Channel 1</source>
+      <translation>ערוץ 1</translation>
+    </message>
+    <message>
+      <source>Channel 2</source>
+      <translation>ערוץ 2</translation>
+    </message>
+    <message>
+      <source>Channel 3</source>
+      <translation>ערוץ 3</translation>
+    </message>
+    <message>
+      <source>Channel 4</source>
+      <translation>ערוץ 4</translation>
+    </message>
+    <message>
+      <source>Channel 5</source>
+      <translation>ערוץ 5</translation>
+    </message>
+    <message>
+      <source>Next</source>
+      <translation>הבא</translation>
+    </message>
+    <message>
+      <source>Cancel</source>
+      <translation>ביטול</translation>
+    </message>
+  </context>
+  <context>
+    <name>ui_printView</name>
+    <message>
+      <source>Report</source>
+      <translation>דוח</translation>
+    </message>
+    <message>
+      <source>Memo</source>
+      <translation>הערה</translation>
+    </message>
+    <message>
+      <source>The memo is printed on the last line of the report.</source>
+      <translation>ההערה מודפסת בשורה האחרונה של הדוח.</translation>
+    </message>
+    <message>
+      <source>Print</source>
+      <translation>הדפסה</translation>
+    </message>
+    <message>
+      <source>Save as PDF</source>
+      <translation>שמירה כ-PDF</translation>
+    </message>
+    <message>
+      <source>Close</source>
+      <translation>סגירה</translation>
+    </message>
+  </context>
+  <context>
+    <name>ui_saveAsView</name>
+    <message>
+      <source>Choose Save Scene</source>
+      <translation>בחירת סצנה לשמירה</translation>
+    </message>
+    <message>
+      <source>Choose the cameras to save</source>
+      <translation>בחר את המצלמות לשמירה</translation>
+    </message>
+    <message>
+      <source>Channel 1</source>
+      <translation>ערוץ 1</translation>
+    </message>
+    <message>
+      <source>Channel 2</source>
+      <translation>ערוץ 2</translation>
+    </message>
+    <message>
+      <source>Channel 3</source>
+      <translation>ערוץ 3</translation>
+    </message>
+    <message>
+      <source>Channel 4</source>
+      <translation>ערוץ 4</translation>
+    </message>
+    <message>
+      <source>Channel 5</source>
+      <translation>ערוץ 5</translation>
+    </message>
+    <message>
+      <source>Save Snapshot</source>
+      <translation>שמירת תמונה</translation>
+    </message>
+    <message>
+      <source>Save Video</source>
+      <translation>שמירת וידאו</translation>
+    </message>
+    <message>
+      <source>Save to this folder</source>
+      <translation>שמירה בתיקייה זו</translation>
+    </message>
+    <message>
+      <source>File type</source>
+      <translation>סוג קובץ</translation>
+    </message>
+    <message>
+      <source>MP4</source>
+      <translation>MP4</translation>
+    </message>
+    <message>
+      <source>AVI</source>
+      <translation>AVI</translation>
+    </message>
+    <message>
+      <source>Back</source>
+      <translation>חזרה</translation>
+    </message>
+    <message>
+      <source>Save</source>
+      <translation>שמירה</translation>
+    </message>
+    <message>
+      <source>Cancel</source>
+      <translation>ביטול</translation>
     </message>
   </context>
   <context>

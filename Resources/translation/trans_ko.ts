@@ -2,6 +2,32 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ko_KR">
   <context>
+    <name>ChannelChoices</name>
+    <message>
+      <source>No picture</source>
+      <translation>영상 없음</translation>
+    </message>
+  </context>
+  <context>
+    <name>FfmpegRunner</name>
+    <message>
+      <source>the file there cannot be moved aside.</source>
+      <translation>그 위치의 파일을 옮길 수 없습니다.</translation>
+    </message>
+    <message>
+      <source>ffmpeg stopped unexpectedly.</source>
+      <translation>ffmpeg가 예기치 않게 중지되었습니다.</translation>
+    </message>
+    <message>
+      <source>ffmpeg ended with code %1.</source>
+      <translation>ffmpeg가 코드 %1(으)로 종료되었습니다.</translation>
+    </message>
+    <message>
+      <source>ffmpeg cannot be started: %1</source>
+      <translation>ffmpeg를 시작할 수 없습니다: %1</translation>
+    </message>
+  </context>
+  <context>
     <name>LanguageView</name>
     <message>
       <source>English </source>
@@ -15,12 +41,8 @@
   <context>
     <name>MainWindow</name>
     <message>
-      <source>Complete to Save Snapshot!</source>
-      <translation>스냅샷 저장을 완료했습니다!</translation>
-    </message>
-    <message>
-      <source>Snapshot not saved:</source>
-      <translation>스냅샷을 저장하지 못했습니다:</translation>
+      <source>Play a recording to print its report.</source>
+      <translation>보고서를 인쇄하려면 녹화 영상을 재생하세요.</translation>
     </message>
   </context>
   <context>
@@ -87,6 +109,162 @@
     <message>
       <source>Frm</source>
       <translation>프레임</translation>
+    </message>
+  </context>
+  <context>
+    <name>PrintChannelSelectView</name>
+    <message>
+      <source>There is not selected channel!</source>
+      <translation>선택된 채널이 없습니다!</translation>
+    </message>
+  </context>
+  <context>
+    <name>PrintView</name>
+    <message>
+      <source>The file cannot be written there.</source>
+      <translation>그 위치에 파일을 쓸 수 없습니다.</translation>
+    </message>
+    <message>
+      <source>The file there cannot be replaced.</source>
+      <translation>그 위치의 파일을 바꿀 수 없습니다.</translation>
+    </message>
+    <message>
+      <source>Save as PDF</source>
+      <translation>PDF로 저장</translation>
+    </message>
+    <message>
+      <source>PDF (*.pdf)</source>
+      <translation>PDF (*.pdf)</translation>
+    </message>
+    <message>
+      <source>The report was not saved:</source>
+      <translation>보고서를 저장하지 못했습니다:</translation>
+    </message>
+    <message>
+      <source>The report is saved:</source>
+      <translation>보고서를 저장했습니다:</translation>
+    </message>
+  </context>
+  <context>
+    <name>ReportPage</name>
+    <message>
+      <source>FileName: </source>
+      <translation>파일 이름: </translation>
+    </message>
+    <message>
+      <source>Date: </source>
+      <translation>날짜: </translation>
+    </message>
+    <message>
+      <source>Model Name: </source>
+      <translation>모델명: </translation>
+    </message>
+    <message>
+      <source>GPS:</source>
+      <translation>GPS:</translation>
+    </message>
+    <message>
+      <source>Speed: </source>
+      <translation>속도: </translation>
+    </message>
+    <message>
+      <source>G-Senor: X:</source>
+      <translation>G-센서: X:</translation>
+    </message>
+    <message>
+      <source>Memo: </source>
+      <translation>메모: </translation>
+    </message>
+    <message>
+      <source>Report</source>
+      <translation>보고서</translation>
+    </message>
+  </context>
+  <context>
+    <name>SaveAsView</name>
+    <message>
+      <source>There is no select channel</source>
+      <translation>선택된 채널이 없습니다</translation>
+    </message>
+    <message>
+      <source>Search Folder</source>
+      <translation>폴더 찾기</translation>
+    </message>
+    <message>
+      <source>File Setting</source>
+      <translation>파일 설정</translation>
+    </message>
+    <message>
+      <source>Choose Save Scene</source>
+      <translation>저장할 장면 선택</translation>
+    </message>
+    <message>
+      <source>Choose the folder to save to.</source>
+      <translation>저장할 폴더를 선택하세요.</translation>
+    </message>
+    <message>
+      <source>The folder %1 cannot be made.</source>
+      <translation>%1 폴더를 만들 수 없습니다.</translation>
+    </message>
+    <message>
+      <source>Complete to Save Snapshot!</source>
+      <translation>스냅샷 저장 완료!</translation>
+    </message>
+    <message>
+      <source>Snapshot not saved:</source>
+      <translation>스냅샷을 저장하지 못했습니다:</translation>
+    </message>
+    <message>
+      <source>Saved:</source>
+      <translation>저장됨:</translation>
+    </message>
+    <message>
+      <source>The video cannot be saved: the ffmpeg program is missing. It belongs in %1 or on the PATH.</source>
+      <translation>영상을 저장할 수 없습니다: ffmpeg 프로그램이 없습니다. %1 또는 PATH에 있어야 합니다.</translation>
+    </message>
+    <message>
+      <source>%1 is the recording itself. Choose another folder to save the video to.</source>
+      <translation>%1은(는) 녹화 파일 자체입니다. 영상을 저장할 다른 폴더를 선택하세요.</translation>
+    </message>
+    <message>
+      <source>The files of the chosen cameras are not there any more.</source>
+      <translation>선택한 카메라의 파일이 더 이상 없습니다.</translation>
+    </message>
+    <message>
+      <source>These files exist already:</source>
+      <translation>다음 파일이 이미 있습니다:</translation>
+    </message>
+    <message>
+      <source>Replace them?</source>
+      <translation>바꾸시겠습니까?</translation>
+    </message>
+    <message>
+      <source>Saving channel %1 of %2...</source>
+      <translation>채널 %1/%2 저장 중...</translation>
+    </message>
+    <message>
+      <source>Channel %1 has no file to save.</source>
+      <translation>채널 %1에는 저장할 파일이 없습니다.</translation>
+    </message>
+    <message>
+      <source>Complete File Download!</source>
+      <translation>파일 다운로드 완료!</translation>
+    </message>
+    <message>
+      <source>The video was not saved.</source>
+      <translation>영상을 저장하지 못했습니다.</translation>
+    </message>
+    <message>
+      <source>Saved before that:</source>
+      <translation>그 전에 저장된 파일:</translation>
+    </message>
+    <message>
+      <source>Cancelled. The unfinished file was removed.</source>
+      <translation>취소했습니다. 완료되지 않은 파일은 삭제했습니다.</translation>
+    </message>
+    <message>
+      <source>The video is still being saved. Stop saving it?</source>
+      <translation>영상을 저장하는 중입니다. 저장을 중지하시겠습니까?</translation>
     </message>
   </context>
   <context>
@@ -303,6 +481,139 @@
     <message>
       <source>2x</source>
       <translation>2x</translation>
+    </message>
+  </context>
+  <context>
+    <name>ui_printChannelSelectView</name>
+    <message>
+      <source>Print</source>
+      <translation>인쇄</translation>
+    </message>
+    <message>
+      <source>Choose the camera whose picture goes into the report</source>
+      <translation>보고서에 넣을 카메라 영상을 선택하세요</translation>
+    </message>
+    <message>
+      <source>Channel 1</source>
+      <translation>채널 1</translation>
+    </message>
+    <message>
+      <source>Channel 2</source>
+      <translation>채널 2</translation>
+    </message>
+    <message>
+      <source>Channel 3</source>
+      <translation>채널 3</translation>
+    </message>
+    <message>
+      <source>Channel 4</source>
+      <translation>채널 4</translation>
+    </message>
+    <message>
+      <source>Channel 5</source>
+      <translation>채널 5</translation>
+    </message>
+    <message>
+      <source>Next</source>
+      <translation>다음</translation>
+    </message>
+    <message>
+      <source>Cancel</source>
+      <translation>취소</translation>
+    </message>
+  </context>
+  <context>
+    <name>ui_printView</name>
+    <message>
+      <source>Report</source>
+      <translation>보고서</translation>
+    </message>
+    <message>
+      <source>Memo</source>
+      <translation>메모</translation>
+    </message>
+    <message>
+      <source>The memo is printed on the last line of the report.</source>
+      <translation>메모는 보고서의 마지막 줄에 인쇄됩니다.</translation>
+    </message>
+    <message>
+      <source>Print</source>
+      <translation>인쇄</translation>
+    </message>
+    <message>
+      <source>Save as PDF</source>
+      <translation>PDF로 저장</translation>
+    </message>
+    <message>
+      <source>Close</source>
+      <translation>닫기</translation>
+    </message>
+  </context>
+  <context>
+    <name>ui_saveAsView</name>
+    <message>
+      <source>Choose Save Scene</source>
+      <translation>저장할 장면 선택</translation>
+    </message>
+    <message>
+      <source>Choose the cameras to save</source>
+      <translation>저장할 카메라를 선택하세요</translation>
+    </message>
+    <message>
+      <source>Channel 1</source>
+      <translation>채널 1</translation>
+    </message>
+    <message>
+      <source>Channel 2</source>
+      <translation>채널 2</translation>
+    </message>
+    <message>
+      <source>Channel 3</source>
+      <translation>채널 3</translation>
+    </message>
+    <message>
+      <source>Channel 4</source>
+      <translation>채널 4</translation>
+    </message>
+    <message>
+      <source>Channel 5</source>
+      <translation>채널 5</translation>
+    </message>
+    <message>
+      <source>Save Snapshot</source>
+      <translation>스냅샷 저장</translation>
+    </message>
+    <message>
+      <source>Save Video</source>
+      <translation>영상 저장</translation>
+    </message>
+    <message>
+      <source>Save to this folder</source>
+      <translation>저장할 폴더</translation>
+    </message>
+    <message>
+      <source>File type</source>
+      <translation>파일 형식</translation>
+    </message>
+    <message>
+      <source>MP4</source>
+      <translation>MP4</translation>
+    </message>
+    <message>
+      <source>AVI</source>
+      <translation>AVI</translation>
+    </message>
+    <message>
+      <source>Back</source>
+      <translation>뒤로</translation>
+    </message>
+    <message>
+      <source>Save</source>
+      <translation>저장</translation>
+    </message>
+    <message>
+      <source>Cancel</source>
+      <translation>취소</translation>
     </message>
   </context>
   <context>

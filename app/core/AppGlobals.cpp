@@ -18,6 +18,7 @@ int AppGlobals::volume = 100;
 bool AppGlobals::mute = false;
 QString AppGlobals::snapshotPath;
 QString AppGlobals::videoPath;
+int AppGlobals::speedUnit = 1;
 
 QString AppGlobals::statusLogPath() {
     return dataFolder + QLatin1String(kStatusLogName);

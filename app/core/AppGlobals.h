@@ -31,6 +31,8 @@ public:
     static bool mute;
     static QString snapshotPath;
     static QString videoPath;
+    // Speeds in the report: 2 miles per hour, anything else kilometres per hour.
+    static int speedUnit;
 
     static QString statusLogPath();
 

@@ -139,6 +139,12 @@ void MapView::onUpdateMap() {
     showPosition(point.latitude, point.longitude, point.speed, false);
 }
 
+QImage MapView::currentPicture() const {
+    if (m_web == nullptr || !m_mapLoaded || !m_web->isVisible())
+        return QImage();
+    return m_web->grab().toImage();
+}
+
 void MapView::showPosition(double latitude, double longitude, double speed, bool first) {
     if (m_mapLoaded)
         run(QStringLiteral("setLatLng(%1, %2, %3, %4)")

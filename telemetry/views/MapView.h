@@ -2,6 +2,7 @@
 
 #include "TavWidget.h"
 
+#include <QImage>
 #include <QPoint>
 #include <QString>
 #include <QVector>
@@ -39,6 +40,8 @@ public:
     // The page failed to decrypt: the map area says so instead.
     bool pageFailed() const { return m_pageFailed; }
     QWebEngineView* webView() const { return m_web; }
+    // The map as it shows on the screen now; a null image while no map is shown.
+    QImage currentPicture() const;
 
 signals:
     void onSendBlockKeyboardEvent(bool flag);
