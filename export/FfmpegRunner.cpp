@@ -16,7 +16,8 @@ FfmpegRunner::~FfmpegRunner() {
 }
 
 QStringList FfmpegRunner::reportArguments() {
-    return {"-hide_banner", "-nostats", "-loglevel", "level+info", "-progress", "pipe:1"};
+    return {"-nostdin",   "-hide_banner", "-nostats", "-loglevel",
+            "level+info", "-progress",    "pipe:1"};
 }
 
 void FfmpegRunner::start(const QString& program, const QList<VideoExportRun>& runs) {

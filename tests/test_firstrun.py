@@ -12,7 +12,9 @@ grabbed and the scenes are checked for their pictures:
     front camera's red picture, the rear scenes its green and blue ones, and all three move;
   - the bare run command (`tools/run.sh`), which opens the demo recordings: all three scenes
     show a moving picture, none is black; the G-sensor chart shows its three axes, and the
-    map (the side panel's map button) the route and the car, which moves.
+    map (the side panel's map button) the route and the car, which moves; then the user
+    saves the cameras' video and snapshots (capture, with the mouse), and the report as PDF
+    (print, the file dialog answered with the keyboard).
 
 The scenes are found from the window's position on the screen and the main window's own
 description file, which places them. The last grab of each case is kept in BUILD/tests/ for
@@ -49,24 +51,28 @@ def xdotool(*args, timeout=30):
     return result.stdout.split()
 
 
+def parse_ppm(ppm):
+    """Width, height and RGB bytes of a binary PPM (P6) picture."""
+    # Header: magic, width, height, maximum, then one byte of white space.
+    fields, index = [], 0
+    while len(fields) < 4:
+        while ppm[index:index + 1].isspace():
+            index += 1
+        end = index
+        while not ppm[end:end + 1].isspace():
+            end += 1
+        fields.append(ppm[index:end])
+        index = end
+    return int(fields[1]), int(fields[2]), ppm[index + 1:]
+
+
 class Screen:
     """One grab of the whole screen as rows of RGB bytes."""
 
     def __init__(self):
         ppm = subprocess.run(["import", "-window", "root", "-depth", "8", "ppm:-"],
                              capture_output=True, check=True).stdout
-        # P6 header: magic, width, height, maximum, then one byte of white space.
-        fields, index = [], 0
-        while len(fields) < 4:
-            while ppm[index:index + 1].isspace():
-                index += 1
-            end = index
-            while not ppm[end:end + 1].isspace():
-                end += 1
-            fields.append(ppm[index:end])
-            index = end
-        self.width, self.height = int(fields[1]), int(fields[2])
-        self.pixels = ppm[index + 1:]
+        self.width, self.height, self.pixels = parse_ppm(ppm)
         self.raw = ppm
 
     def pixel(self, x, y):
@@ -178,6 +184,142 @@ def check_chart_and_map(window, name):
     check(second.differs(first, area, step=2) > 0.0005, "%s: the car moves on the map" % name)
 
 
+def wait_for_window(title, timeout=20):
+    """The screen position of a top-level window with this name, once it shows."""
+    found = xdotool("search", "--sync", "--onlyvisible", "--name", "^%s$" % title,
+                    timeout=timeout)
+    if not found:
+        return None
+    words = xdotool("getwindowgeometry", found[0])
+    # "Window N", "Position:", "X,Y", "(screen:", "0)", "Geometry:", "WxH"
+    x, y = words[words.index("Position:") + 1].split(",")
+    return int(x), int(y), found[0]
+
+
+def click(x, y):
+    xdotool("mousemove", str(x), str(y), "click", "1")
+
+
+def click_entry(origin, view, name, parent=None):
+    """A click in the middle of a child placed by a view's description."""
+    x, y, w, h = entry(view, name)
+    if parent:
+        px, py, _, _ = entry(view, parent)
+        x, y = x + px, y + py
+    click(origin[0] + x + w // 2, origin[1] + y + h // 2)
+
+
+def wait_for_files(folder, pattern, count, timeout=20):
+    deadline = time.time() + timeout
+    found = []
+    while time.time() < deadline:
+        found = sorted(f for f in os.listdir(folder) if re.match(pattern, f)) \
+            if os.path.isdir(folder) else []
+        if len(found) >= count:
+            break
+        time.sleep(0.3)
+    return found
+
+
+def check_export(window, name, home):
+    """Capture: the cameras' pictures offered, their video saved under the movies folder
+    and their snapshots under the pictures folder; print: the report saved as PDF, with the
+    scene and the map on its page."""
+    wx, wy = window
+    sx, sy, _, _ = entry("MainWindow", "shortcutTable")
+    column = (wx + sx, wy + sy)
+    stem = r"20240612_081502_INF"
+    for mode, folder, pattern in (
+            ("bSaveVideo", os.path.join(home, "Videos", "ZENTA"), stem + r"_[123]\.mp4$"),
+            ("bSaveSnapshot", os.path.join(home, "Pictures", "ZENTA"), stem + r"_1_[123]_\d+\.jpg$")):
+        click_entry(column, "TavShortcutTable", "bCapture")
+        dialog = wait_for_window("Choose Save Scene")
+        check(dialog is not None, "%s: capture opens the save dialog" % name)
+        if dialog is None:
+            return
+        time.sleep(0.5)
+        grab = Screen()
+        thumbs = [entry("SaveAsView", "thumb%d" % i) for i in (1, 2, 3)]
+        _, page_y, _, _ = entry("SaveAsView", "pageScene")
+        pictures = [grab.share((dialog[0] + x + 2, dialog[1] + page_y + y + 2, w - 4, h - 4),
+                               not_black, step=2) for x, y, w, h in thumbs]
+        if mode == "bSaveVideo":
+            grab.save(os.path.join(BUILD, "tests", "firstrun-%s-save.png" % name))
+        check(all(share > 0.5 for share in pictures),
+              "%s: the save dialog shows each camera's picture (%s)" %
+              (name, ", ".join("%.0f %%" % (100 * s) for s in pictures)))
+        click_entry(dialog, "SaveAsView", mode, "pageScene")
+        time.sleep(0.5)
+        click_entry(dialog, "SaveAsView", "bSave", "pageFile")
+        files = wait_for_files(folder, pattern, 3)
+        check(len(files) == 3, "%s: %s writes one file per camera into %s (%s)" %
+              (name, mode, folder, files))
+        time.sleep(0.5)
+        xdotool("key", "--clearmodifiers", "Return")  # the completion message
+        time.sleep(0.5)
+    video = os.path.join(home, "Videos", "ZENTA", stem + "_2.mp4")
+    if os.path.exists(video):
+        probe = subprocess.run(["ffprobe", "-v", "error", "-show_entries", "stream=codec_name",
+                                "-of", "csv=p=0", video], capture_output=True, text=True)
+        check(probe.stdout.split()[:1] == ["h264"], "%s: the saved video is the camera's "
+              "picture, copied (%s)" % (name, probe.stdout.split()))
+
+    click_entry(column, "TavShortcutTable", "bPrint")
+    choice = wait_for_window("Print")
+    check(choice is not None, "%s: print asks for the camera" % name)
+    if choice is None:
+        return
+    click_entry(choice, "PrintChannelSelectView", "bOk")
+    report = wait_for_window("Report")
+    check(report is not None, "%s: the report dialog opens" % name)
+    if report is None:
+        return
+    time.sleep(0.8)
+    grab = Screen()
+    grab.save(os.path.join(BUILD, "tests", "firstrun-%s-report.png" % name))
+    px, py, pw, ph = entry("PrintView", "preview")
+    preview = (report[0] + px, report[1] + py, pw, ph)
+    check(grab.share(preview, lambda r, g, b: r > 240 and g > 240 and b > 240) > 0.3 and
+          grab.share(preview, route, step=1) > 0.0002,
+          "%s: the preview shows a white page with the map's route" % name)
+    click_entry(report, "PrintView", "bSavePdf")
+    save_dialog = wait_for_window("Save as PDF")
+    check(save_dialog is not None, "%s: Save as PDF asks where" % name)
+    if save_dialog is None:
+        return
+    pdf = os.path.join(home, "report.pdf")
+    time.sleep(0.5)
+    xdotool("windowfocus", "--sync", save_dialog[2])
+    xdotool("key", "--clearmodifiers", "ctrl+a")
+    xdotool("type", "--delay", "20", pdf)
+    xdotool("key", "--clearmodifiers", "Return")
+    written = wait_for_files(home, r"report\.pdf$", 1)
+    check(bool(written), "%s: the report is saved where the user typed" % name)
+    time.sleep(0.5)
+    xdotool("key", "--clearmodifiers", "Return")  # the message that says where
+    if written:
+        text = subprocess.run(["pdftotext", pdf, "-"], capture_output=True, text=True).stdout
+        for label in ("FileName: 20240612_081502_INF_1.mp4", "G-Senor: X:", "GPS:3", "Km/h"):
+            check(label in text, "%s: the report's text has %r" % (name, label))
+        subprocess.run(["pdftoppm", "-r", "96", "-png", "-singlefile", pdf,
+                        os.path.join(home, "page")], check=True)
+        page_png = os.path.join(home, "page.png")
+        ppm = subprocess.run(["convert", page_png, "-depth", "8", "ppm:-"],
+                             capture_output=True, check=True).stdout
+        shutil.copy(page_png, os.path.join(BUILD, "tests", "firstrun-%s-report-page.png" % name))
+        page = Screen.__new__(Screen)
+        page.raw = ppm
+        page.width, page.height, page.pixels = parse_ppm(ppm)
+        whole = (0, 0, page.width, page.height)
+        # The page's pictures are compressed: the route's yellow comes out a little duller.
+        yellowish = lambda r, g, b: r > 180 and g > 150 and b < 110 and r - b > 100
+        check(page.share(whole, yellowish, step=1) > 0.0002 and page.share(whole, CAR, step=1) > 0.0001
+              and page.share(whole, lambda r, g, b: abs(r - g) > 40 or abs(g - b) > 40) > 0.1,
+              "%s: the page shows the camera's picture and the map with the route and the car"
+              % name)
+    click_entry(report, "PrintView", "bCancel")
+
+
 def scene_rects(window_x, window_y):
     """The main scene (without the part the floating rear scenes cover) and the two rear
     scenes, on the screen."""
@@ -263,6 +405,7 @@ def run_case(name, arguments, expectations):
                   "%s: rear scene %d moves" % (name, index + 1))
         if expectations.get("telemetry"):
             check_chart_and_map(window, name)
+            check_export(window, name, home)
     finally:
         if program.poll() is None:
             program.send_signal(signal.SIGTERM)

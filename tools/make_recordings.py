@@ -7,6 +7,8 @@
     make_recordings.py playback DIR       one colour per channel (and small bar-coded channels
                                           in DIR/steps), for the player's tests
     make_recordings.py sync DIR           three 1080p channels whose frames carry their number
+    make_recordings.py export DIR         a one-minute recording of three camera files at a
+                                          camera's sizes and bit rates, for the export benchmark
 
 Telemetry is written as a timed-text track in the syntax of docs/telemetry-format.md. A
 folder that already holds the output of the same version of this script is left alone.
@@ -566,6 +568,23 @@ def make_sync(folder, scratch):
     bar_coded_channels(folder, 1920, 1080, 25)
 
 
+def make_export(folder, scratch):
+    """One minute of a front camera at 1080p (8 Mbit/s, with sound and telemetry) and two
+    rear cameras at 720p (4 Mbit/s): what a copy of a real recording reads and writes."""
+    drive = Drive(60)
+    srt = os.path.join(scratch, "minute.srt")
+    write_srt(srt, drive.texts(0, 60))
+    for channel, size, rate in ((1, "1920x1080", "8M"), (2, "1280x720", "4M"),
+                                (3, "1280x720", "4M")):
+        sound = ["-f", "lavfi", "-t", "60", "-i", "sine=f=220:r=48000",
+                 "-i", srt] if channel == 1 else []
+        maps = ["-map", "0:v", "-map", "1:a", "-map", "2:s", "-c:a", "aac", "-b:a", "64k"] + \
+            TELEMETRY_TRACK if channel == 1 else []
+        run(["-f", "lavfi", "-i", "testsrc2=s=%s:r=30:d=60" % size] + sound + maps + X264 +
+            ["-b:v", rate, "-g", "30",
+             os.path.join(folder, "20240612_120000_INF_%d.mp4" % channel)])
+
+
 # --- entry -------------------------------------------------------------------------------
 
 def script_version():
@@ -575,7 +594,8 @@ def script_version():
 
 def main():
     parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
-    parser.add_argument("set", choices=["demo", "test", "bench", "playback", "sync"])
+    parser.add_argument("set", choices=["demo", "test", "bench", "playback", "sync",
+                                           "export"])
     parser.add_argument("folder")
     parser.add_argument("-n", "--copies", type=int, default=2000,
                         help="bench: recordings for the length benchmark")
@@ -606,6 +626,8 @@ def main():
             make_playback(folder, scratch)
         elif options.set == "sync":
             make_sync(folder, scratch)
+        elif options.set == "export":
+            make_export(folder, scratch)
         else:
             make_bench(folder, scratch, options.copies)
     with open(stamp, "w") as out:

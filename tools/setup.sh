@@ -14,7 +14,7 @@ TAVORIC_PACKAGES=(
     rapidjson-dev libavformat-dev libavcodec-dev libavutil-dev ffmpeg
     libssl-dev dosfstools mtools
     qtwebengine5-dev libjs-leaflet chromium
-    xvfb xauth x11-apps imagemagick xdotool
+    xvfb xauth x11-apps imagemagick xdotool poppler-utils
     libbenchmark-dev g++-mingw-w64-x86-64
     fonts-noto-core fonts-noto-cjk
 )

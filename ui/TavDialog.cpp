@@ -21,6 +21,12 @@ TavDialog::TavDialog(const QString& viewName, QWidget* parent)
     connect(close, &QPushButton::clicked, this, &QDialog::reject);
 }
 
+void TavDialog::showEvent(QShowEvent* event) {
+    if (windowTitle().isEmpty())
+        setWindowTitle(m_title->text());
+    QDialog::showEvent(event);
+}
+
 void TavDialog::mousePressEvent(QMouseEvent* event) {
     if (event->button() == Qt::LeftButton) {
         m_dragging = true;

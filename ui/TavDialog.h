@@ -21,6 +21,9 @@ public:
     QLabel* title() const { return m_title; }
 
 protected:
+    // The window takes the title's text as its name (for the window list and assistive
+    // tools) unless it has one.
+    void showEvent(QShowEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
