@@ -4,6 +4,7 @@
 #include <QRect>
 #include <QSize>
 
+class CardSession;
 class LeftSideView;
 class PlayControlView;
 class PlayScreenWindow;
@@ -51,6 +52,7 @@ signals:
     void onSendZoomReset();
     void onSendChangeLanguage();
     void onSendBlockEvent(bool block);
+    void onSendFileList(const QStringList& paths);
 
 public slots:
     void onAgreeDlgFinished(int result);
@@ -71,6 +73,11 @@ public slots:
     void onShowFilelist();
     void onRaiseFilelist();
     void openLangaugeDlg();
+    void openSDCardDlg();
+    void openSettingDlg();
+    // The card at root went away or is being formatted: what plays from it stops, and the
+    // list lets go of its recordings.
+    void onCardContentsGone(const QString& root);
     void onFinishedDlg();
     void onChangeTextByLanguage();
     // Saves the picture each camera shows now into the snapshot folder.
@@ -110,6 +117,7 @@ private:
     SubPlayerWindow* m_subPlayers[2] = {nullptr, nullptr};
     PlayControlView* m_control = nullptr;
     PlayerInterface* m_player = nullptr;
+    CardSession* m_card = nullptr;
 
     bool m_agreementAccepted = false;
     bool m_saveSettings = true;
