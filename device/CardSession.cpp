@@ -6,6 +6,7 @@
 #include "SDCardView.h"
 #include "SettingView.h"
 #include "StatusLog.h"
+#include "TavPrompt.h"
 
 CardSession::CardSession(QObject* parent) : QObject(parent) {}
 
@@ -66,6 +67,7 @@ void CardSession::onCardGone() {
     if (ConfigAccess::cardRoot == root)
         ConfigAccess::cardRoot.clear();
     emit onSendCardContentsGone(root);
+    TavPrompt::inform(nullptr, tr("The memory card was removed."));
 }
 
 void CardSession::onFormatStarting() {

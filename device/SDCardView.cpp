@@ -42,7 +42,11 @@ SDCardView::SDCardView(QWidget* parent)
     m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_table->verticalHeader()->hide();
     m_table->setShowGrid(false);
-    m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    // A mount point can be long: the drive column takes the room the sizes leave, and cuts
+    // the middle of what does not fit; its tool tip has it whole.
+    m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    m_table->horizontalHeader()->setSectionResizeMode(DriveColumn, QHeaderView::Stretch);
+    m_table->setTextElideMode(Qt::ElideMiddle);
     m_table->horizontalHeader()->setHighlightSections(false);
     UiDescription ui;
     ui.open("SDCardView");
@@ -50,6 +54,7 @@ SDCardView::SDCardView(QWidget* parent)
     m_table->setStyleSheet(
         m_table->styleSheet() +
         QStringLiteral(" QTableWidget{color: %1; border: 1px solid #3a4150;}"
+                       " QTableWidget::item{padding: 0 6px;}"
                        " QTableWidget::item:selected{background: #2f7cf6; color: #ffffff;}"
                        " QHeaderView::section{background: #262b35; color: #c9ced8; border: none;"
                        " padding: 4px;}")
@@ -97,6 +102,7 @@ void SDCardView::loadMemory() {
             CardDrives::sizeText(drive.freeBytes)};
         for (int column = 0; column < ColumnCount; ++column)
             m_table->setItem(row, column, new QTableWidgetItem(texts[column]));
+        m_table->item(row, DriveColumn)->setToolTip(QDir::toNativeSeparators(drive.root));
     }
     logLine("Complete!");
 }

@@ -97,10 +97,16 @@ void SettingOpt::buildControl(const UiDescription& look) {
     case ComboKind:
     default:
         m_combo = new TavComboBox(this);
-        m_combo->setStyleSheet(sheetOf(look, "optCombo", "QComboBox", false) +
-                               QStringLiteral(" QComboBox{border: 1px solid #3a4150; "
-                                              "padding: 2px 8px;} QComboBox QAbstractItemView"
-                                              "{background: #262b35; color: #e4e7ec;}"));
+        m_combo->setStyleSheet(
+            sheetOf(look, "optCombo", "QComboBox", false) +
+            QStringLiteral(" QComboBox{border: 1px solid #3a4150; padding: 2px 8px;}"
+                           " QComboBox:hover{border-color: #2f7cf6;}"
+                           " QComboBox::drop-down{border: none; width: 24px;}"
+                           " QComboBox::down-arrow{image: url(\"%1combo-arrow.svg\");"
+                           " width: 20px; height: 20px;}"
+                           " QComboBox QAbstractItemView{background: #262b35; color: #e4e7ec;"
+                           " selection-background-color: #2f7cf6;}")
+                .arg(look.imageFolder()));
         m_combo->setFont(fontOf(look, "optCombo"));
         m_combo->setMinimumSize(look.item("optCombo").size);
         for (const SettingRecord::Choice& choice : m_record.choices)

@@ -268,6 +268,7 @@ private slots:
         QVERIFY(!session.isWatching());
         QVERIFY(ConfigAccess::cardRoot.isEmpty());
         QVERIFY(CardDrives::validatedRoot().isEmpty());
+        QCOMPARE(m_messages, QStringList{"The memory card was removed."});
         CardFixture(m_dir.path()).install();
     }
 };

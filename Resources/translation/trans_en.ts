@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en_US">
   <context>
+    <name>CardSession</name>
+    <message>
+      <source>The memory card was removed.</source>
+      <translation>The memory card was removed.</translation>
+    </message>
+  </context>
+  <context>
     <name>ConfigAccess</name>
     <message>
       <source>Error is occured!</source>

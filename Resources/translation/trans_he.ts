@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="he_IL">
   <context>
+    <name>CardSession</name>
+    <message>
+      <source>The memory card was removed.</source>
+      <translation>כרטיס הזיכרון הוצא.</translation>
+    </message>
+  </context>
+  <context>
     <name>ConfigAccess</name>
     <message>
       <source>Error is occured!</source>

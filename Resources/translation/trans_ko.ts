@@ -2,6 +2,13 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ko_KR">
   <context>
+    <name>CardSession</name>
+    <message>
+      <source>The memory card was removed.</source>
+      <translation>메모리 카드가 제거되었습니다.</translation>
+    </message>
+  </context>
+  <context>
     <name>ConfigAccess</name>
     <message>
       <source>Error is occured!</source>
