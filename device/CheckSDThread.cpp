@@ -27,7 +27,7 @@ bool CheckSDThread::cardPresent(const QDir& root) const {
     // A card pulled out can leave its empty mount point behind; what counts is that the
     // drive is still mounted.
     for (const CardDrives::Drive& drive : CardDrives::list()) {
-        if (QDir(drive.root) == root)
+        if (QDir(drive.root + '/') == root)
             return true;
     }
     return false;
@@ -35,7 +35,8 @@ bool CheckSDThread::cardPresent(const QDir& root) const {
 
 void CheckSDThread::run() {
     m_alive = true;
-    const auto root = std::make_unique<QDir>(m_root);
+    // "E:" alone would name the current folder of drive E.
+    const auto root = std::make_unique<QDir>(m_root + '/');
     m_running = true;
     while (m_running) {
         if (!cardPresent(*root)) {

@@ -84,7 +84,7 @@ void FileFormatThread::run() {
             fail(FormatterFailed, detail);
             // What the formatter left is emptied, so that the configuration goes back onto
             // a clean card.
-            if (!CardDrives::isSafeCardRoot(m_root) || !CardFolders::removeContents(m_root))
+            if (!CardDrives::isSafeCardRoot(m_root) || !CardFolders::removeContents(m_root + '/'))
                 fail(ClearFailed);
             break;
         case Formatted:
