@@ -2,7 +2,9 @@
 
 #include "AgreementView.h"
 #include "AppGlobals.h"
+#include "CardSession.h"
 #include "ChartView.h"
+#include "ConfigAccess.h"
 #include "LanguageView.h"
 #include "LeftSideView.h"
 #include "MapView.h"
@@ -41,6 +43,7 @@
 #include <QStackedWidget>
 #include <QTimer>
 
+#include <algorithm>
 #include <cstdlib>
 
 MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent) {
@@ -208,6 +211,7 @@ void MainWindow::setupUi() {
     m_player->setMainScreen(m_playScreen->scene());
     m_player->setSub1Screen(m_subPlayers[0]->scene());
     m_player->setSub2Screen(m_subPlayers[1]->scene());
+    m_card = new CardSession(this);
 
     m_central->retranslate();
     QMetaObject::connectSlotsByName(this);
@@ -237,7 +241,14 @@ void MainWindow::connectViews() {
         if (enabled("ControlView"))
             connect(m_shortcuts, &TavShortcutTable::onSendCapture, m_control,
                     &PlayControlView::onClick_bCapture);
+        connect(m_shortcuts, &TavShortcutTable::onSendSignalMemory, this,
+                &MainWindow::openSDCardDlg);
+        connect(m_shortcuts, &TavShortcutTable::onSendSignalSetting, this,
+                &MainWindow::openSettingDlg);
     }
+    connect(m_card, &CardSession::onSendSDCardFile, this, &MainWindow::onSendFileList);
+    connect(m_card, &CardSession::onSendCardContentsGone, this, &MainWindow::onCardContentsGone);
+    connect(m_card, &CardSession::onSendNotSaveSetting, this, &MainWindow::onSetNotSaveSetting);
     connect(m_player, &PlayerInterface::onSendShowWindow, this, &MainWindow::onShowPlayWindow);
     if (enabled("fileList")) {
         connect(m_fileList, &TavFileListItem::doubleClickedItem, m_player,
@@ -254,6 +265,7 @@ void MainWindow::connectViews() {
                 &TavFileListItem::onFinishReadFileTime);
         connect(this, &MainWindow::onSendChangeLanguage, m_fileList,
                 &TavFileListItem::onChangeLanguage);
+        connect(this, &MainWindow::onSendFileList, m_fileList, &TavFileListItem::onReceiveFileList);
         if (enabled("shortcutTable")) {
             connect(m_shortcuts, &TavShortcutTable::onSendSignalFolder, m_fileList,
                     &TavFileListItem::onOpenFolderDlg);
@@ -559,7 +571,8 @@ void MainWindow::showPrintDialogs(bool paused) {
     if (!hasRecording())
         return;
     const QString file = PlayerInterface::currentFile;
-    ReportScene scene = ReportScene::fromPlayback(QString(), AppGlobals::speedUnit);
+    // The model of the card last opened; empty when the recording came from elsewhere.
+    ReportScene scene = ReportScene::fromPlayback(ConfigAccess::modelText, AppGlobals::speedUnit);
     if (PlayerInterface::gpsPresent && enabled("MapView"))
         scene.mapImage = m_map->currentPicture();
     PrintChannelSelectView dialog(this);
@@ -665,6 +678,28 @@ void MainWindow::openLangaugeDlg() {
     connect(&dialog, &QDialog::finished, this, &MainWindow::onFinishedDlg);
     dialog.move(geometry().center() - dialog.rect().center());
     dialog.exec();
+}
+
+void MainWindow::openSDCardDlg() {
+    logDebug("MainWindow::openSDCardDlg");
+    m_card->openCardDialog(this);
+}
+
+void MainWindow::openSettingDlg() {
+    logDebug("MainWindow::openSettingDlg");
+    m_card->openSettingDialog(this);
+}
+
+void MainWindow::onCardContentsGone(const QString& root) {
+    logDebug("MainWindow::onCardContentsGone");
+    const QString prefix = QDir::cleanPath(root) + '/';
+    if (PlayerInterface::currentFile.startsWith(prefix))
+        m_player->onClickStop(true);
+    const bool listed = std::any_of(
+        TavFileListItem::records.cbegin(), TavFileListItem::records.cend(),
+        [&prefix](const RecordingRecord& record) { return record.filePath.startsWith(prefix); });
+    if (listed && enabled("fileList"))
+        m_fileList->onDeleteAllFileAtList();
 }
 
 void MainWindow::onFinishedDlg() {

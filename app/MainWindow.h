@@ -5,6 +5,7 @@
 #include <QSize>
 
 class ChartView;
+class CardSession;
 class LeftSideView;
 class MapView;
 class PlayControlView;
@@ -56,6 +57,7 @@ signals:
     void onSendChangeLanguage();
     void onSendBlockEvent(bool block);
     void onSendMapShow(bool show);
+    void onSendFileList(const QStringList& paths);
 
 public slots:
     void onAgreeDlgFinished(int result);
@@ -78,6 +80,11 @@ public slots:
     // The side panel shows the map in place of the file list.
     void onRaiseMap();
     void openLangaugeDlg();
+    void openSDCardDlg();
+    void openSettingDlg();
+    // The card at root went away or is being formatted: what plays from it stops, and the
+    // list lets go of its recordings.
+    void onCardContentsGone(const QString& root);
     void onFinishedDlg();
     void onChangeTextByLanguage();
     // Saves the picture each camera shows now into the snapshot folder.
@@ -130,6 +137,7 @@ private:
     SubPlayerWindow* m_subPlayers[2] = {nullptr, nullptr};
     PlayControlView* m_control = nullptr;
     PlayerInterface* m_player = nullptr;
+    CardSession* m_card = nullptr;
 
     bool m_agreementAccepted = false;
     bool m_saveSettings = true;

@@ -10,6 +10,8 @@ namespace {
 // "Above normal" on Windows sits one class above the default; five nice steps is the usual
 // equivalent on Linux desktops.
 constexpr int kAboveNormalSteps = 5;
+// "High" is two classes above the default.
+constexpr int kHighSteps = 10;
 } // namespace
 
 bool raiseProcessPriority() {
@@ -30,6 +32,18 @@ bool raiseProcessPriority() {
     if (target >= current)
         return false;
     return setpriority(PRIO_PROCESS, 0, target) == 0;
+}
+
+bool raiseToHighPriority(long long processId) {
+    if (processId <= 0)
+        return false;
+    const auto id = static_cast<id_t>(processId);
+    errno = 0;
+    const int current = getpriority(PRIO_PROCESS, id);
+    if (current == -1 && errno != 0)
+        return false;
+    // Only a privileged user may lower a nice value; others keep the helper where it is.
+    return setpriority(PRIO_PROCESS, id, current - kHighSteps) == 0;
 }
 
 } // namespace platform

@@ -17,7 +17,8 @@ public:
     static const char* const kSingleChannelAvi;
     static const char* const kSingleChannelMp4;
     static const char* const kTwoDigitChannelAvi;
-    static const char* const kFrontOnlyMp4; // kept beside the others, applied nowhere
+    // Front files only; the card dialog lists cameras with a file per channel by these.
+    static const char* const kFrontOnlyMp4;
 
     // Channel suffixes: index 0 is the front camera, 1 and 2 the rear cameras.
     static const char* const kMp4ChannelSuffixes[3];

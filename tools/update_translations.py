@@ -1,9 +1,11 @@
 #!/usr/bin/env python3
 """Brings Resources/translation/trans_{en,ko,he}.ts up to date with the program's texts.
 
-Texts come from two places: tr() calls in the C++ sources (found by lupdate, one context per
-class) and the "text" of every entry in the view description files (context "ui_" + the
-view name in lower camel case, which is how the views look them up). Translations already
+Texts come from three places: tr() calls in the C++ sources (found by lupdate, one context per
+class), the "text" of every entry in the view description files (context "ui_" + the
+view name in lower camel case, which is how the views look them up), and the cameras'
+setting names, hints and choices in Setting.json (context "SettingOpt"; choices without a
+letter, such as "+1", are shown as they are). Translations already
 in the files are kept; new texts are added as unfinished and listed, so a translator can
 fill them in. English carries every text as its own translation.
 
@@ -60,6 +62,24 @@ def description_texts():
     return pairs
 
 
+def setting_texts():
+    """(context, source) pairs of the settings dialog's rows, in file order."""
+    path = os.path.join(ROOT, "Resources", "json", "Setting.json")
+    if not os.path.exists(path):
+        return []
+    with open(path, encoding="utf-8") as handle:
+        models = json.load(handle)
+    texts = []
+    for trees in models.values():
+        for tree, settings in trees.items():
+            texts.append(tree)
+            for name, record in settings.items():
+                texts.append(name)
+                texts.append(record.get("text", ""))
+                texts.extend(choice.get("name", "") for choice in record.get("item", []))
+    return [("SettingOpt", text) for text in texts if any(c.isalpha() for c in text)]
+
+
 def existing(language):
     path = os.path.join(ROOT, "Resources", "translation", "trans_%s.ts" % language)
     known = {}
@@ -104,7 +124,7 @@ def write(language, pairs, known):
 
 
 def main():
-    pairs = source_texts() + description_texts()
+    pairs = source_texts() + description_texts() + setting_texts()
     status = 0
     for language in LANGUAGES:
         known = existing(language)

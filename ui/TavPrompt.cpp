@@ -11,6 +11,7 @@
 
 std::function<void(const QString&)> TavPrompt::informHook;
 std::function<bool(const QString&)> TavPrompt::askHook;
+std::function<bool(const QString&, const QString&)> TavPrompt::askTitledHook;
 std::function<QStringList()> TavPrompt::openFilesHook;
 std::function<QString()> TavPrompt::openFolderHook;
 std::function<QString(const QString&)> TavPrompt::saveFileHook;
@@ -113,9 +114,14 @@ void TavPrompt::inform(QWidget* parent, const QString& text) {
 }
 
 bool TavPrompt::ask(QWidget* parent, const QString& text) {
+    return ask(parent, QCoreApplication::translate("TavPrompt", "Warning"), text);
+}
+
+bool TavPrompt::ask(QWidget* parent, const QString& title, const QString& text) {
+    if (askTitledHook)
+        return askTitledHook(title, text);
     if (askHook)
         return askHook(text);
-    const QString title = QCoreApplication::translate("TavPrompt", "Warning");
     // No question-mark picture: the platform's is drawn for light boxes.
     QMessageBox box(QMessageBox::NoIcon, title, text, QMessageBox::Yes | QMessageBox::No, parent);
     box.setObjectName(QStringLiteral("tavQuestion"));

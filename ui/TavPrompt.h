@@ -16,6 +16,8 @@ public:
     static void inform(QWidget* parent, const QString& text);
     // A question titled "Warning" with Yes and No buttons; true only for Yes.
     static bool ask(QWidget* parent, const QString& text);
+    // The same under a title of its own.
+    static bool ask(QWidget* parent, const QString& title, const QString& text);
     // Several existing files; empty when cancelled.
     static QStringList openFiles(QWidget* parent, const QString& caption, const QString& folder,
                                  const QString& filter);
@@ -33,6 +35,8 @@ public:
     // Set by tests. Each hook, when set, replaces the corresponding dialog.
     static std::function<void(const QString& text)> informHook;
     static std::function<bool(const QString& text)> askHook;
+    // Answers questions with their titles; askHook answers when this one is not set.
+    static std::function<bool(const QString& title, const QString& text)> askTitledHook;
     static std::function<QStringList()> openFilesHook;
     static std::function<QString()> openFolderHook;
     static std::function<QString(const QString& path)> saveFileHook;

@@ -2,10 +2,56 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en_US">
   <context>
+    <name>CardSession</name>
+    <message>
+      <source>The memory card was removed.</source>
+      <translation>The memory card was removed.</translation>
+    </message>
+  </context>
+  <context>
     <name>ChannelChoices</name>
     <message>
       <source>No picture</source>
       <translation>No picture</translation>
+    </message>
+  </context>
+  <context>
+    <name>ConfigAccess</name>
+    <message>
+      <source>Error is occured!</source>
+      <translation>Error is occured!</translation>
+    </message>
+    <message>
+      <source>This model is not supported!</source>
+      <translation>This model is not supported!</translation>
+    </message>
+    <message>
+      <source>checksum is different!</source>
+      <translation>checksum is different!</translation>
+    </message>
+    <message>
+      <source>Setting file is not exist!</source>
+      <translation>Setting file is not exist!</translation>
+    </message>
+    <message>
+      <source>This model is not support!</source>
+      <translation>This model is not support!</translation>
+    </message>
+    <message>
+      <source>The settings were not written: the SD card is not the one that was opened.</source>
+      <translation>The settings were not written: the SD card is not the one that was opened.</translation>
+    </message>
+    <message>
+      <source>The settings could not be written to the SD card, and its previous settings could not be put back.</source>
+      <translation>The settings could not be written to the SD card, and its previous settings could not be put back.</translation>
+    </message>
+    <message>
+      <source>The settings could not be written to the SD card. Its previous settings are kept.</source>
+      <translation>The settings could not be written to the SD card. Its previous settings are kept.</translation>
+    </message>
+    <message>
+      <source>Fail to format SDCard!</source>
+      <translation>Fail to format SDCard!</translation>
     </message>
   </context>
   <context>
@@ -25,6 +71,45 @@
     <message>
       <source>ffmpeg cannot be started: %1</source>
       <translation>ffmpeg cannot be started: %1</translation>
+    </message>
+  </context>
+  <context>
+    <name>FileFormatThread</name>
+    <message>
+      <source>The SD card was not formatted: its configuration could not be saved.</source>
+      <translation>The SD card was not formatted: its configuration could not be saved.</translation>
+    </message>
+    <message>
+      <source>The configuration could not be put back on the SD card.</source>
+      <translation>The configuration could not be put back on the SD card.</translation>
+    </message>
+    <message>
+      <source>The configuration could not be put back on the SD card. It is kept in %1.</source>
+      <translation>The configuration could not be put back on the SD card. It is kept in %1.</translation>
+    </message>
+    <message>
+      <source>The SD card is not the one that was opened, or it is no longer mounted. Nothing on it was changed.</source>
+      <translation>The SD card is not the one that was opened, or it is no longer mounted. Nothing on it was changed.</translation>
+    </message>
+    <message>
+      <source>The SD card is no longer mounted. Nothing on it was changed.</source>
+      <translation>The SD card is no longer mounted. Nothing on it was changed.</translation>
+    </message>
+    <message>
+      <source>You have no permission to format %1. Nothing on the SD card was changed.</source>
+      <translation>You have no permission to format %1. Nothing on the SD card was changed.</translation>
+    </message>
+    <message>
+      <source>The SD card could not be unmounted (%1). Nothing on it was changed.</source>
+      <translation>The SD card could not be unmounted (%1). Nothing on it was changed.</translation>
+    </message>
+    <message>
+      <source>The formatter %1 could not be started. Nothing on the SD card was changed.</source>
+      <translation>The formatter %1 could not be started. Nothing on the SD card was changed.</translation>
+    </message>
+    <message>
+      <source>The formatter failed with exit code %1.</source>
+      <translation>The formatter failed with exit code %1.</translation>
     </message>
   </context>
   <context>
@@ -181,6 +266,41 @@
     </message>
   </context>
   <context>
+    <name>SDCardView</name>
+    <message>
+      <source>Drive</source>
+      <translation>Drive</translation>
+    </message>
+    <message>
+      <source>Name</source>
+      <translation>Name</translation>
+    </message>
+    <message>
+      <source>Total</source>
+      <translation>Total</translation>
+    </message>
+    <message>
+      <source>Used</source>
+      <translation>Used</translation>
+    </message>
+    <message>
+      <source>Free</source>
+      <translation>Free</translation>
+    </message>
+    <message>
+      <source>SD Card is not selected!</source>
+      <translation>SD Card is not selected!</translation>
+    </message>
+    <message>
+      <source>SD Card is not connected!</source>
+      <translation>SD Card is not connected!</translation>
+    </message>
+    <message>
+      <source>SD Card is Empty!</source>
+      <translation>SD Card is Empty!</translation>
+    </message>
+  </context>
+  <context>
     <name>SaveAsView</name>
     <message>
       <source>There is no select channel</source>
@@ -265,6 +385,480 @@
     <message>
       <source>The video is still being saved. Stop saving it?</source>
       <translation>The video is still being saved. Stop saving it?</translation>
+    </message>
+  </context>
+  <context>
+    <name>SettingOpt</name>
+    <message>
+      <source>Camera</source>
+      <translation>Camera</translation>
+    </message>
+    <message>
+      <source>Front Resolution</source>
+      <translation>Front Resolution</translation>
+    </message>
+    <message>
+      <source>1080p FHD</source>
+      <translation>1080p FHD</translation>
+    </message>
+    <message>
+      <source>1440p QHD</source>
+      <translation>1440p QHD</translation>
+    </message>
+    <message>
+      <source>Rear Resolution</source>
+      <translation>Rear Resolution</translation>
+    </message>
+    <message>
+      <source>720p HD</source>
+      <translation>720p HD</translation>
+    </message>
+    <message>
+      <source>Frame Rate</source>
+      <translation>Frame Rate</translation>
+    </message>
+    <message>
+      <source>30 fps</source>
+      <translation>30 fps</translation>
+    </message>
+    <message>
+      <source>60 fps</source>
+      <translation>60 fps</translation>
+    </message>
+    <message>
+      <source>Exposure</source>
+      <translation>Exposure</translation>
+    </message>
+    <message>
+      <source>Video Bitrate</source>
+      <translation>Video Bitrate</translation>
+    </message>
+    <message>
+      <source>A higher bitrate keeps more detail and fits less time on the card.</source>
+      <translation>A higher bitrate keeps more detail and fits less time on the card.</translation>
+    </message>
+    <message>
+      <source>Low</source>
+      <translation>Low</translation>
+    </message>
+    <message>
+      <source>Normal</source>
+      <translation>Normal</translation>
+    </message>
+    <message>
+      <source>High</source>
+      <translation>High</translation>
+    </message>
+    <message>
+      <source>Record Audio</source>
+      <translation>Record Audio</translation>
+    </message>
+    <message>
+      <source>Off</source>
+      <translation>Off</translation>
+    </message>
+    <message>
+      <source>On</source>
+      <translation>On</translation>
+    </message>
+    <message>
+      <source>Date Stamp</source>
+      <translation>Date Stamp</translation>
+    </message>
+    <message>
+      <source>Speed Stamp</source>
+      <translation>Speed Stamp</translation>
+    </message>
+    <message>
+      <source>Rear Camera Mirror</source>
+      <translation>Rear Camera Mirror</translation>
+    </message>
+    <message>
+      <source>Battery Protection</source>
+      <translation>Battery Protection</translation>
+    </message>
+    <message>
+      <source>Parking Mode</source>
+      <translation>Parking Mode</translation>
+    </message>
+    <message>
+      <source>Impact only</source>
+      <translation>Impact only</translation>
+    </message>
+    <message>
+      <source>Motion and impact</source>
+      <translation>Motion and impact</translation>
+    </message>
+    <message>
+      <source>Time lapse</source>
+      <translation>Time lapse</translation>
+    </message>
+    <message>
+      <source>Low Voltage Cut-off</source>
+      <translation>Low Voltage Cut-off</translation>
+    </message>
+    <message>
+      <source>Stops recording before the car battery runs too low to start the engine.</source>
+      <translation>Stops recording before the car battery runs too low to start the engine.</translation>
+    </message>
+    <message>
+      <source>Cut-off Voltage</source>
+      <translation>Cut-off Voltage</translation>
+    </message>
+    <message>
+      <source>11.8V</source>
+      <translation>11.8V</translation>
+    </message>
+    <message>
+      <source>12.0V</source>
+      <translation>12.0V</translation>
+    </message>
+    <message>
+      <source>12.2V</source>
+      <translation>12.2V</translation>
+    </message>
+    <message>
+      <source>12.4V</source>
+      <translation>12.4V</translation>
+    </message>
+    <message>
+      <source>Parking Timer</source>
+      <translation>Parking Timer</translation>
+    </message>
+    <message>
+      <source>6 h</source>
+      <translation>6 h</translation>
+    </message>
+    <message>
+      <source>12 h</source>
+      <translation>12 h</translation>
+    </message>
+    <message>
+      <source>24 h</source>
+      <translation>24 h</translation>
+    </message>
+    <message>
+      <source>48 h</source>
+      <translation>48 h</translation>
+    </message>
+    <message>
+      <source>Memory</source>
+      <translation>Memory</translation>
+    </message>
+    <message>
+      <source>Memory Allocation</source>
+      <translation>Memory Allocation</translation>
+    </message>
+    <message>
+      <source>Changing it formats the memory card.</source>
+      <translation>Changing it formats the memory card.</translation>
+    </message>
+    <message>
+      <source>Driving priority</source>
+      <translation>Driving priority</translation>
+    </message>
+    <message>
+      <source>Event priority</source>
+      <translation>Event priority</translation>
+    </message>
+    <message>
+      <source>Parking priority</source>
+      <translation>Parking priority</translation>
+    </message>
+    <message>
+      <source>Driving only</source>
+      <translation>Driving only</translation>
+    </message>
+    <message>
+      <source>Overwrite Events</source>
+      <translation>Overwrite Events</translation>
+    </message>
+    <message>
+      <source>Recording Length</source>
+      <translation>Recording Length</translation>
+    </message>
+    <message>
+      <source>1 min</source>
+      <translation>1 min</translation>
+    </message>
+    <message>
+      <source>2 min</source>
+      <translation>2 min</translation>
+    </message>
+    <message>
+      <source>3 min</source>
+      <translation>3 min</translation>
+    </message>
+    <message>
+      <source>Sensitive</source>
+      <translation>Sensitive</translation>
+    </message>
+    <message>
+      <source>Driving Impact Sensitivity</source>
+      <translation>Driving Impact Sensitivity</translation>
+    </message>
+    <message>
+      <source>Lowest</source>
+      <translation>Lowest</translation>
+    </message>
+    <message>
+      <source>Middle</source>
+      <translation>Middle</translation>
+    </message>
+    <message>
+      <source>Highest</source>
+      <translation>Highest</translation>
+    </message>
+    <message>
+      <source>Parking Impact Sensitivity</source>
+      <translation>Parking Impact Sensitivity</translation>
+    </message>
+    <message>
+      <source>Motion Detection Sensitivity</source>
+      <translation>Motion Detection Sensitivity</translation>
+    </message>
+    <message>
+      <source>System</source>
+      <translation>System</translation>
+    </message>
+    <message>
+      <source>Time Zone</source>
+      <translation>Time Zone</translation>
+    </message>
+    <message>
+      <source>UTC-12:00</source>
+      <translation>UTC-12:00</translation>
+    </message>
+    <message>
+      <source>UTC-11:00</source>
+      <translation>UTC-11:00</translation>
+    </message>
+    <message>
+      <source>UTC-10:00</source>
+      <translation>UTC-10:00</translation>
+    </message>
+    <message>
+      <source>UTC-09:00</source>
+      <translation>UTC-09:00</translation>
+    </message>
+    <message>
+      <source>UTC-08:00</source>
+      <translation>UTC-08:00</translation>
+    </message>
+    <message>
+      <source>UTC-07:00</source>
+      <translation>UTC-07:00</translation>
+    </message>
+    <message>
+      <source>UTC-06:00</source>
+      <translation>UTC-06:00</translation>
+    </message>
+    <message>
+      <source>UTC-05:00</source>
+      <translation>UTC-05:00</translation>
+    </message>
+    <message>
+      <source>UTC-04:00</source>
+      <translation>UTC-04:00</translation>
+    </message>
+    <message>
+      <source>UTC-03:00</source>
+      <translation>UTC-03:00</translation>
+    </message>
+    <message>
+      <source>UTC-02:00</source>
+      <translation>UTC-02:00</translation>
+    </message>
+    <message>
+      <source>UTC-01:00</source>
+      <translation>UTC-01:00</translation>
+    </message>
+    <message>
+      <source>UTC+00:00</source>
+      <translation>UTC+00:00</translation>
+    </message>
+    <message>
+      <source>UTC+01:00</source>
+      <translation>UTC+01:00</translation>
+    </message>
+    <message>
+      <source>UTC+02:00</source>
+      <translation>UTC+02:00</translation>
+    </message>
+    <message>
+      <source>UTC+03:00</source>
+      <translation>UTC+03:00</translation>
+    </message>
+    <message>
+      <source>UTC+04:00</source>
+      <translation>UTC+04:00</translation>
+    </message>
+    <message>
+      <source>UTC+05:00</source>
+      <translation>UTC+05:00</translation>
+    </message>
+    <message>
+      <source>UTC+05:30</source>
+      <translation>UTC+05:30</translation>
+    </message>
+    <message>
+      <source>UTC+05:45</source>
+      <translation>UTC+05:45</translation>
+    </message>
+    <message>
+      <source>UTC+06:00</source>
+      <translation>UTC+06:00</translation>
+    </message>
+    <message>
+      <source>UTC+07:00</source>
+      <translation>UTC+07:00</translation>
+    </message>
+    <message>
+      <source>UTC+08:00</source>
+      <translation>UTC+08:00</translation>
+    </message>
+    <message>
+      <source>UTC+09:00</source>
+      <translation>UTC+09:00</translation>
+    </message>
+    <message>
+      <source>UTC+09:30</source>
+      <translation>UTC+09:30</translation>
+    </message>
+    <message>
+      <source>UTC+10:00</source>
+      <translation>UTC+10:00</translation>
+    </message>
+    <message>
+      <source>UTC+11:00</source>
+      <translation>UTC+11:00</translation>
+    </message>
+    <message>
+      <source>UTC+12:00</source>
+      <translation>UTC+12:00</translation>
+    </message>
+    <message>
+      <source>UTC+13:00</source>
+      <translation>UTC+13:00</translation>
+    </message>
+    <message>
+      <source>UTC+14:00</source>
+      <translation>UTC+14:00</translation>
+    </message>
+    <message>
+      <source>Daylight Saving Time</source>
+      <translation>Daylight Saving Time</translation>
+    </message>
+    <message>
+      <source>Speed Unit</source>
+      <translation>Speed Unit</translation>
+    </message>
+    <message>
+      <source>km/h</source>
+      <translation>km/h</translation>
+    </message>
+    <message>
+      <source>mph</source>
+      <translation>mph</translation>
+    </message>
+    <message>
+      <source>Volume</source>
+      <translation>Volume</translation>
+    </message>
+    <message>
+      <source>Mute</source>
+      <translation>Mute</translation>
+    </message>
+    <message>
+      <source>Voice Guidance</source>
+      <translation>Voice Guidance</translation>
+    </message>
+    <message>
+      <source>Model Name</source>
+      <translation>Model Name</translation>
+    </message>
+    <message>
+      <source>Firmware Version</source>
+      <translation>Firmware Version</translation>
+    </message>
+    <message>
+      <source>Interior Camera</source>
+      <translation>Interior Camera</translation>
+    </message>
+    <message>
+      <source>Wi-Fi</source>
+      <translation>Wi-Fi</translation>
+    </message>
+    <message>
+      <source>Wifi Password</source>
+      <translation>Wifi Password</translation>
+    </message>
+    <message>
+      <source>The last four characters of the camera's serial number.</source>
+      <translation>The last four characters of the camera's serial number.</translation>
+    </message>
+    <message>
+      <source>2160p UHD</source>
+      <translation>2160p UHD</translation>
+    </message>
+    <message>
+      <source>Night Vision</source>
+      <translation>Night Vision</translation>
+    </message>
+    <message>
+      <source>LCD Auto Off</source>
+      <translation>LCD Auto Off</translation>
+    </message>
+  </context>
+  <context>
+    <name>SettingView</name>
+    <message>
+      <source>There are unsaved settings.</source>
+      <translation>There are unsaved settings.</translation>
+    </message>
+    <message>
+      <source>SD is not exist!</source>
+      <translation>SD is not exist!</translation>
+    </message>
+    <message>
+      <source>File Format</source>
+      <translation>File Format</translation>
+    </message>
+    <message>
+      <source>Do you Really want to file format?</source>
+      <translation>Do you Really want to file format?</translation>
+    </message>
+    <message>
+      <source>It can't go back if you clicked yes.</source>
+      <translation>It can't go back if you clicked yes.</translation>
+    </message>
+    <message>
+      <source>Error Occured!</source>
+      <translation>Error Occured!</translation>
+    </message>
+    <message>
+      <source>Complete!</source>
+      <translation>Complete!</translation>
+    </message>
+    <message>
+      <source>Device Reset</source>
+      <translation>Device Reset</translation>
+    </message>
+    <message>
+      <source>The memory will be formatted to return some settings to defaults.</source>
+      <translation>The memory will be formatted to return some settings to defaults.</translation>
+    </message>
+    <message>
+      <source>Would you like to return your device to factory settings?</source>
+      <translation>Would you like to return your device to factory settings?</translation>
+    </message>
+    <message>
+      <source>Program Reset</source>
+      <translation>Program Reset</translation>
+    </message>
+    <message>
+      <source>Program will be quit.</source>
+      <translation>Program will be quit.</translation>
     </message>
   </context>
   <context>
@@ -550,6 +1144,29 @@
     </message>
   </context>
   <context>
+    <name>ui_sDCardView</name>
+    <message>
+      <source>Memory Card</source>
+      <translation>Memory Card</translation>
+    </message>
+    <message>
+      <source>Choose the memory card of your dash camera.</source>
+      <translation>Choose the memory card of your dash camera.</translation>
+    </message>
+    <message>
+      <source>Refresh</source>
+      <translation>Refresh</translation>
+    </message>
+    <message>
+      <source>Open</source>
+      <translation>Open</translation>
+    </message>
+    <message>
+      <source>Cancel</source>
+      <translation>Cancel</translation>
+    </message>
+  </context>
+  <context>
     <name>ui_saveAsView</name>
     <message>
       <source>Choose Save Scene</source>
@@ -617,6 +1234,81 @@
     </message>
   </context>
   <context>
+    <name>ui_settingView</name>
+    <message>
+      <source>Settings</source>
+      <translation>Settings</translation>
+    </message>
+    <message>
+      <source>Device</source>
+      <translation>Device</translation>
+    </message>
+    <message>
+      <source>Camera</source>
+      <translation>Camera</translation>
+    </message>
+    <message>
+      <source>Battery Protection</source>
+      <translation>Battery Protection</translation>
+    </message>
+    <message>
+      <source>Memory</source>
+      <translation>Memory</translation>
+    </message>
+    <message>
+      <source>Sensitive</source>
+      <translation>Sensitive</translation>
+    </message>
+    <message>
+      <source>System</source>
+      <translation>System</translation>
+    </message>
+    <message>
+      <source>PCViewer</source>
+      <translation>PCViewer</translation>
+    </message>
+    <message>
+      <source>Program Setting</source>
+      <translation>Program Setting</translation>
+    </message>
+    <message>
+      <source>Update</source>
+      <translation>Update</translation>
+    </message>
+    <message>
+      <source>Open a memory card to see the settings of its camera.</source>
+      <translation>Open a memory card to see the settings of its camera.</translation>
+    </message>
+    <message>
+      <source>A program reset returns the window, language, sound and folders to their first start and starts the program again.</source>
+      <translation>A program reset returns the window, language, sound and folders to their first start and starts the program again.</translation>
+    </message>
+    <message>
+      <source>Program Reset</source>
+      <translation>Program Reset</translation>
+    </message>
+    <message>
+      <source>File Format</source>
+      <translation>File Format</translation>
+    </message>
+    <message>
+      <source>Device Reset</source>
+      <translation>Device Reset</translation>
+    </message>
+    <message>
+      <source>Apply</source>
+      <translation>Apply</translation>
+    </message>
+    <message>
+      <source>OK</source>
+      <translation>OK</translation>
+    </message>
+    <message>
+      <source>Cancel</source>
+      <translation>Cancel</translation>
+    </message>
+  </context>
+  <context>
     <name>ui_tavTypeList</name>
     <message>
       <source>Infinity</source>
@@ -640,6 +1332,13 @@
     <message>
       <source>tavoric</source>
       <translation>tavoric</translation>
+    </message>
+  </context>
+  <context>
+    <name>ui_waitAlertView</name>
+    <message>
+      <source>Please wait...</source>
+      <translation>Please wait...</translation>
     </message>
   </context>
   <context>

@@ -2,10 +2,56 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="he_IL">
   <context>
+    <name>CardSession</name>
+    <message>
+      <source>The memory card was removed.</source>
+      <translation>כרטיס הזיכרון הוצא.</translation>
+    </message>
+  </context>
+  <context>
     <name>ChannelChoices</name>
     <message>
       <source>No picture</source>
       <translation>אין תמונה</translation>
+    </message>
+  </context>
+  <context>
+    <name>ConfigAccess</name>
+    <message>
+      <source>Error is occured!</source>
+      <translation>אירעה שגיאה!</translation>
+    </message>
+    <message>
+      <source>This model is not supported!</source>
+      <translation>דגם זה אינו נתמך!</translation>
+    </message>
+    <message>
+      <source>checksum is different!</source>
+      <translation>סכום הביקורת שונה!</translation>
+    </message>
+    <message>
+      <source>Setting file is not exist!</source>
+      <translation>קובץ ההגדרות אינו קיים!</translation>
+    </message>
+    <message>
+      <source>This model is not support!</source>
+      <translation>דגם זה אינו נתמך!</translation>
+    </message>
+    <message>
+      <source>The settings were not written: the SD card is not the one that was opened.</source>
+      <translation>ההגדרות לא נכתבו: כרטיס ה-SD אינו הכרטיס שנפתח.</translation>
+    </message>
+    <message>
+      <source>The settings could not be written to the SD card, and its previous settings could not be put back.</source>
+      <translation>לא ניתן היה לכתוב את ההגדרות לכרטיס ה-SD, וגם לא ניתן היה להחזיר את ההגדרות הקודמות.</translation>
+    </message>
+    <message>
+      <source>The settings could not be written to the SD card. Its previous settings are kept.</source>
+      <translation>לא ניתן היה לכתוב את ההגדרות לכרטיס ה-SD. ההגדרות הקודמות נשמרו.</translation>
+    </message>
+    <message>
+      <source>Fail to format SDCard!</source>
+      <translation>אתחול כרטיס ה-SD נכשל!</translation>
     </message>
   </context>
   <context>
@@ -25,6 +71,45 @@
     <message>
       <source>ffmpeg cannot be started: %1</source>
       <translation>לא ניתן להפעיל את ffmpeg: %1</translation>
+    </message>
+  </context>
+  <context>
+    <name>FileFormatThread</name>
+    <message>
+      <source>The SD card was not formatted: its configuration could not be saved.</source>
+      <translation>כרטיס ה-SD לא אותחל: לא ניתן היה לשמור את התצורה שלו.</translation>
+    </message>
+    <message>
+      <source>The configuration could not be put back on the SD card.</source>
+      <translation>לא ניתן היה להחזיר את התצורה לכרטיס ה-SD.</translation>
+    </message>
+    <message>
+      <source>The configuration could not be put back on the SD card. It is kept in %1.</source>
+      <translation>לא ניתן היה להחזיר את התצורה לכרטיס ה-SD. היא שמורה ב-%1.</translation>
+    </message>
+    <message>
+      <source>The SD card is not the one that was opened, or it is no longer mounted. Nothing on it was changed.</source>
+      <translation>כרטיס ה-SD אינו הכרטיס שנפתח, או שאינו מחובר עוד. דבר לא שונה בו.</translation>
+    </message>
+    <message>
+      <source>The SD card is no longer mounted. Nothing on it was changed.</source>
+      <translation>כרטיס ה-SD אינו מחובר עוד. דבר לא שונה בו.</translation>
+    </message>
+    <message>
+      <source>You have no permission to format %1. Nothing on the SD card was changed.</source>
+      <translation>אין לך הרשאה לאתחל את %1. דבר לא שונה בכרטיס ה-SD.</translation>
+    </message>
+    <message>
+      <source>The SD card could not be unmounted (%1). Nothing on it was changed.</source>
+      <translation>לא ניתן היה לנתק את כרטיס ה-SD (%1). דבר לא שונה בו.</translation>
+    </message>
+    <message>
+      <source>The formatter %1 could not be started. Nothing on the SD card was changed.</source>
+      <translation>לא ניתן היה להפעיל את תוכנית האתחול %1. דבר לא שונה בכרטיס ה-SD.</translation>
+    </message>
+    <message>
+      <source>The formatter failed with exit code %1.</source>
+      <translation>תוכנית האתחול נכשלה עם קוד יציאה %1.</translation>
     </message>
   </context>
   <context>
@@ -188,6 +273,41 @@
     </message>
   </context>
   <context>
+    <name>SDCardView</name>
+    <message>
+      <source>Drive</source>
+      <translation>כונן</translation>
+    </message>
+    <message>
+      <source>Name</source>
+      <translation>שם</translation>
+    </message>
+    <message>
+      <source>Total</source>
+      <translation>סך הכול</translation>
+    </message>
+    <message>
+      <source>Used</source>
+      <translation>בשימוש</translation>
+    </message>
+    <message>
+      <source>Free</source>
+      <translation>פנוי</translation>
+    </message>
+    <message>
+      <source>SD Card is not selected!</source>
+      <translation>לא נבחר כרטיס SD!</translation>
+    </message>
+    <message>
+      <source>SD Card is not connected!</source>
+      <translation>כרטיס SD אינו מחובר!</translation>
+    </message>
+    <message>
+      <source>SD Card is Empty!</source>
+      <translation>כרטיס ה-SD ריק!</translation>
+    </message>
+  </context>
+  <context>
     <name>SaveAsView</name>
     <message>
       <source>There is no select channel</source>
@@ -272,6 +392,480 @@
     <message>
       <source>The video is still being saved. Stop saving it?</source>
       <translation>הווידאו עדיין נשמר. להפסיק את השמירה?</translation>
+    </message>
+  </context>
+  <context>
+    <name>SettingOpt</name>
+    <message>
+      <source>Camera</source>
+      <translation>מצלמה</translation>
+    </message>
+    <message>
+      <source>Front Resolution</source>
+      <translation>רזולוציה קדמית</translation>
+    </message>
+    <message>
+      <source>1080p FHD</source>
+      <translation>1080p FHD</translation>
+    </message>
+    <message>
+      <source>1440p QHD</source>
+      <translation>1440p QHD</translation>
+    </message>
+    <message>
+      <source>Rear Resolution</source>
+      <translation>רזולוציה אחורית</translation>
+    </message>
+    <message>
+      <source>720p HD</source>
+      <translation>720p HD</translation>
+    </message>
+    <message>
+      <source>Frame Rate</source>
+      <translation>קצב פריימים</translation>
+    </message>
+    <message>
+      <source>30 fps</source>
+      <translation>30 fps</translation>
+    </message>
+    <message>
+      <source>60 fps</source>
+      <translation>60 fps</translation>
+    </message>
+    <message>
+      <source>Exposure</source>
+      <translation>חשיפה</translation>
+    </message>
+    <message>
+      <source>Video Bitrate</source>
+      <translation>קצב סיביות וידאו</translation>
+    </message>
+    <message>
+      <source>A higher bitrate keeps more detail and fits less time on the card.</source>
+      <translation>קצב סיביות גבוה שומר יותר פרטים ומאפשר פחות זמן הקלטה בכרטיס.</translation>
+    </message>
+    <message>
+      <source>Low</source>
+      <translation>נמוך</translation>
+    </message>
+    <message>
+      <source>Normal</source>
+      <translation>רגיל</translation>
+    </message>
+    <message>
+      <source>High</source>
+      <translation>גבוה</translation>
+    </message>
+    <message>
+      <source>Record Audio</source>
+      <translation>הקלטת שמע</translation>
+    </message>
+    <message>
+      <source>Off</source>
+      <translation>כבוי</translation>
+    </message>
+    <message>
+      <source>On</source>
+      <translation>פועל</translation>
+    </message>
+    <message>
+      <source>Date Stamp</source>
+      <translation>חותמת תאריך</translation>
+    </message>
+    <message>
+      <source>Speed Stamp</source>
+      <translation>חותמת מהירות</translation>
+    </message>
+    <message>
+      <source>Rear Camera Mirror</source>
+      <translation>היפוך מצלמה אחורית</translation>
+    </message>
+    <message>
+      <source>Battery Protection</source>
+      <translation>הגנת מצבר</translation>
+    </message>
+    <message>
+      <source>Parking Mode</source>
+      <translation>מצב חניה</translation>
+    </message>
+    <message>
+      <source>Impact only</source>
+      <translation>פגיעה בלבד</translation>
+    </message>
+    <message>
+      <source>Motion and impact</source>
+      <translation>תנועה ופגיעה</translation>
+    </message>
+    <message>
+      <source>Time lapse</source>
+      <translation>צילום בהילוך מהיר</translation>
+    </message>
+    <message>
+      <source>Low Voltage Cut-off</source>
+      <translation>ניתוק במתח נמוך</translation>
+    </message>
+    <message>
+      <source>Stops recording before the car battery runs too low to start the engine.</source>
+      <translation>עוצר את ההקלטה לפני שמצבר הרכב נחלש מכדי להניע את המנוע.</translation>
+    </message>
+    <message>
+      <source>Cut-off Voltage</source>
+      <translation>מתח ניתוק</translation>
+    </message>
+    <message>
+      <source>11.8V</source>
+      <translation>11.8V</translation>
+    </message>
+    <message>
+      <source>12.0V</source>
+      <translation>12.0V</translation>
+    </message>
+    <message>
+      <source>12.2V</source>
+      <translation>12.2V</translation>
+    </message>
+    <message>
+      <source>12.4V</source>
+      <translation>12.4V</translation>
+    </message>
+    <message>
+      <source>Parking Timer</source>
+      <translation>קוצב זמן חניה</translation>
+    </message>
+    <message>
+      <source>6 h</source>
+      <translation>6 שעות</translation>
+    </message>
+    <message>
+      <source>12 h</source>
+      <translation>12 שעות</translation>
+    </message>
+    <message>
+      <source>24 h</source>
+      <translation>24 שעות</translation>
+    </message>
+    <message>
+      <source>48 h</source>
+      <translation>48 שעות</translation>
+    </message>
+    <message>
+      <source>Memory</source>
+      <translation>זיכרון</translation>
+    </message>
+    <message>
+      <source>Memory Allocation</source>
+      <translation>הקצאת זיכרון</translation>
+    </message>
+    <message>
+      <source>Changing it formats the memory card.</source>
+      <translation>שינוי ההגדרה מאתחל את כרטיס הזיכרון.</translation>
+    </message>
+    <message>
+      <source>Driving priority</source>
+      <translation>עדיפות לנסיעה</translation>
+    </message>
+    <message>
+      <source>Event priority</source>
+      <translation>עדיפות לאירועים</translation>
+    </message>
+    <message>
+      <source>Parking priority</source>
+      <translation>עדיפות לחניה</translation>
+    </message>
+    <message>
+      <source>Driving only</source>
+      <translation>נסיעה בלבד</translation>
+    </message>
+    <message>
+      <source>Overwrite Events</source>
+      <translation>דריסת אירועים</translation>
+    </message>
+    <message>
+      <source>Recording Length</source>
+      <translation>אורך הקלטה</translation>
+    </message>
+    <message>
+      <source>1 min</source>
+      <translation>דקה</translation>
+    </message>
+    <message>
+      <source>2 min</source>
+      <translation>2 דקות</translation>
+    </message>
+    <message>
+      <source>3 min</source>
+      <translation>3 דקות</translation>
+    </message>
+    <message>
+      <source>Sensitive</source>
+      <translation>רגישות</translation>
+    </message>
+    <message>
+      <source>Driving Impact Sensitivity</source>
+      <translation>רגישות לפגיעה בנסיעה</translation>
+    </message>
+    <message>
+      <source>Lowest</source>
+      <translation>הנמוך ביותר</translation>
+    </message>
+    <message>
+      <source>Middle</source>
+      <translation>בינוני</translation>
+    </message>
+    <message>
+      <source>Highest</source>
+      <translation>הגבוה ביותר</translation>
+    </message>
+    <message>
+      <source>Parking Impact Sensitivity</source>
+      <translation>רגישות לפגיעה בחניה</translation>
+    </message>
+    <message>
+      <source>Motion Detection Sensitivity</source>
+      <translation>רגישות לזיהוי תנועה</translation>
+    </message>
+    <message>
+      <source>System</source>
+      <translation>מערכת</translation>
+    </message>
+    <message>
+      <source>Time Zone</source>
+      <translation>אזור זמן</translation>
+    </message>
+    <message>
+      <source>UTC-12:00</source>
+      <translation>UTC-12:00</translation>
+    </message>
+    <message>
+      <source>UTC-11:00</source>
+      <translation>UTC-11:00</translation>
+    </message>
+    <message>
+      <source>UTC-10:00</source>
+      <translation>UTC-10:00</translation>
+    </message>
+    <message>
+      <source>UTC-09:00</source>
+      <translation>UTC-09:00</translation>
+    </message>
+    <message>
+      <source>UTC-08:00</source>
+      <translation>UTC-08:00</translation>
+    </message>
+    <message>
+      <source>UTC-07:00</source>
+      <translation>UTC-07:00</translation>
+    </message>
+    <message>
+      <source>UTC-06:00</source>
+      <translation>UTC-06:00</translation>
+    </message>
+    <message>
+      <source>UTC-05:00</source>
+      <translation>UTC-05:00</translation>
+    </message>
+    <message>
+      <source>UTC-04:00</source>
+      <translation>UTC-04:00</translation>
+    </message>
+    <message>
+      <source>UTC-03:00</source>
+      <translation>UTC-03:00</translation>
+    </message>
+    <message>
+      <source>UTC-02:00</source>
+      <translation>UTC-02:00</translation>
+    </message>
+    <message>
+      <source>UTC-01:00</source>
+      <translation>UTC-01:00</translation>
+    </message>
+    <message>
+      <source>UTC+00:00</source>
+      <translation>UTC+00:00</translation>
+    </message>
+    <message>
+      <source>UTC+01:00</source>
+      <translation>UTC+01:00</translation>
+    </message>
+    <message>
+      <source>UTC+02:00</source>
+      <translation>UTC+02:00</translation>
+    </message>
+    <message>
+      <source>UTC+03:00</source>
+      <translation>UTC+03:00</translation>
+    </message>
+    <message>
+      <source>UTC+04:00</source>
+      <translation>UTC+04:00</translation>
+    </message>
+    <message>
+      <source>UTC+05:00</source>
+      <translation>UTC+05:00</translation>
+    </message>
+    <message>
+      <source>UTC+05:30</source>
+      <translation>UTC+05:30</translation>
+    </message>
+    <message>
+      <source>UTC+05:45</source>
+      <translation>UTC+05:45</translation>
+    </message>
+    <message>
+      <source>UTC+06:00</source>
+      <translation>UTC+06:00</translation>
+    </message>
+    <message>
+      <source>UTC+07:00</source>
+      <translation>UTC+07:00</translation>
+    </message>
+    <message>
+      <source>UTC+08:00</source>
+      <translation>UTC+08:00</translation>
+    </message>
+    <message>
+      <source>UTC+09:00</source>
+      <translation>UTC+09:00</translation>
+    </message>
+    <message>
+      <source>UTC+09:30</source>
+      <translation>UTC+09:30</translation>
+    </message>
+    <message>
+      <source>UTC+10:00</source>
+      <translation>UTC+10:00</translation>
+    </message>
+    <message>
+      <source>UTC+11:00</source>
+      <translation>UTC+11:00</translation>
+    </message>
+    <message>
+      <source>UTC+12:00</source>
+      <translation>UTC+12:00</translation>
+    </message>
+    <message>
+      <source>UTC+13:00</source>
+      <translation>UTC+13:00</translation>
+    </message>
+    <message>
+      <source>UTC+14:00</source>
+      <translation>UTC+14:00</translation>
+    </message>
+    <message>
+      <source>Daylight Saving Time</source>
+      <translation>שעון קיץ</translation>
+    </message>
+    <message>
+      <source>Speed Unit</source>
+      <translation>יחידת מהירות</translation>
+    </message>
+    <message>
+      <source>km/h</source>
+      <translation>קמ"ש</translation>
+    </message>
+    <message>
+      <source>mph</source>
+      <translation>מיל לשעה</translation>
+    </message>
+    <message>
+      <source>Volume</source>
+      <translation>עוצמת שמע</translation>
+    </message>
+    <message>
+      <source>Mute</source>
+      <translation>השתקה</translation>
+    </message>
+    <message>
+      <source>Voice Guidance</source>
+      <translation>הנחיה קולית</translation>
+    </message>
+    <message>
+      <source>Model Name</source>
+      <translation>שם הדגם</translation>
+    </message>
+    <message>
+      <source>Firmware Version</source>
+      <translation>גרסת קושחה</translation>
+    </message>
+    <message>
+      <source>Interior Camera</source>
+      <translation>מצלמה פנימית</translation>
+    </message>
+    <message>
+      <source>Wi-Fi</source>
+      <translation>Wi-Fi</translation>
+    </message>
+    <message>
+      <source>Wifi Password</source>
+      <translation>סיסמת Wi-Fi</translation>
+    </message>
+    <message>
+      <source>The last four characters of the camera's serial number.</source>
+      <translation>ארבעת התווים האחרונים של המספר הסידורי של המצלמה.</translation>
+    </message>
+    <message>
+      <source>2160p UHD</source>
+      <translation>2160p UHD</translation>
+    </message>
+    <message>
+      <source>Night Vision</source>
+      <translation>ראיית לילה</translation>
+    </message>
+    <message>
+      <source>LCD Auto Off</source>
+      <translation>כיבוי מסך אוטומטי</translation>
+    </message>
+  </context>
+  <context>
+    <name>SettingView</name>
+    <message>
+      <source>There are unsaved settings.</source>
+      <translation>יש הגדרות שלא נשמרו.</translation>
+    </message>
+    <message>
+      <source>SD is not exist!</source>
+      <translation>כרטיס SD אינו קיים!</translation>
+    </message>
+    <message>
+      <source>File Format</source>
+      <translation>אתחול קבצים</translation>
+    </message>
+    <message>
+      <source>Do you Really want to file format?</source>
+      <translation>האם אתה בטוח שברצונך לאתחל?</translation>
+    </message>
+    <message>
+      <source>It can't go back if you clicked yes.</source>
+      <translation>לאחר לחיצה על 'כן' לא ניתן לחזור.</translation>
+    </message>
+    <message>
+      <source>Error Occured!</source>
+      <translation>אירעה שגיאה!</translation>
+    </message>
+    <message>
+      <source>Complete!</source>
+      <translation>הושלם!</translation>
+    </message>
+    <message>
+      <source>Device Reset</source>
+      <translation>איפוס המכשיר</translation>
+    </message>
+    <message>
+      <source>The memory will be formatted to return some settings to defaults.</source>
+      <translation>הזיכרון יאותחל כדי להחזיר חלק מההגדרות לברירת המחדל.</translation>
+    </message>
+    <message>
+      <source>Would you like to return your device to factory settings?</source>
+      <translation>האם להחזיר את המכשיר להגדרות היצרן?</translation>
+    </message>
+    <message>
+      <source>Program Reset</source>
+      <translation>איפוס התוכנה</translation>
+    </message>
+    <message>
+      <source>Program will be quit.</source>
+      <translation>התוכנה תיסגר.</translation>
     </message>
   </context>
   <context>
@@ -557,6 +1151,29 @@
     </message>
   </context>
   <context>
+    <name>ui_sDCardView</name>
+    <message>
+      <source>Memory Card</source>
+      <translation>כרטיס זיכרון</translation>
+    </message>
+    <message>
+      <source>Choose the memory card of your dash camera.</source>
+      <translation>בחר את כרטיס הזיכרון של מצלמת הרכב.</translation>
+    </message>
+    <message>
+      <source>Refresh</source>
+      <translation>רענון</translation>
+    </message>
+    <message>
+      <source>Open</source>
+      <translation>פתיחה</translation>
+    </message>
+    <message>
+      <source>Cancel</source>
+      <translation>ביטול</translation>
+    </message>
+  </context>
+  <context>
     <name>ui_saveAsView</name>
     <message>
       <source>Choose Save Scene</source>
@@ -624,6 +1241,81 @@
     </message>
   </context>
   <context>
+    <name>ui_settingView</name>
+    <message>
+      <source>Settings</source>
+      <translation>הגדרות</translation>
+    </message>
+    <message>
+      <source>Device</source>
+      <translation>מכשיר</translation>
+    </message>
+    <message>
+      <source>Camera</source>
+      <translation>מצלמה</translation>
+    </message>
+    <message>
+      <source>Battery Protection</source>
+      <translation>הגנת מצבר</translation>
+    </message>
+    <message>
+      <source>Memory</source>
+      <translation>זיכרון</translation>
+    </message>
+    <message>
+      <source>Sensitive</source>
+      <translation>רגישות</translation>
+    </message>
+    <message>
+      <source>System</source>
+      <translation>מערכת</translation>
+    </message>
+    <message>
+      <source>PCViewer</source>
+      <translation>מציג PC</translation>
+    </message>
+    <message>
+      <source>Program Setting</source>
+      <translation>הגדרות התוכנה</translation>
+    </message>
+    <message>
+      <source>Update</source>
+      <translation>עדכון</translation>
+    </message>
+    <message>
+      <source>Open a memory card to see the settings of its camera.</source>
+      <translation>פתח כרטיס זיכרון כדי לראות את הגדרות המצלמה שלו.</translation>
+    </message>
+    <message>
+      <source>A program reset returns the window, language, sound and folders to their first start and starts the program again.</source>
+      <translation>איפוס התוכנה מחזיר את החלון, השפה, הצליל והתיקיות למצב ההפעלה הראשונה ומפעיל את התוכנה מחדש.</translation>
+    </message>
+    <message>
+      <source>Program Reset</source>
+      <translation>איפוס התוכנה</translation>
+    </message>
+    <message>
+      <source>File Format</source>
+      <translation>אתחול קבצים</translation>
+    </message>
+    <message>
+      <source>Device Reset</source>
+      <translation>איפוס המכשיר</translation>
+    </message>
+    <message>
+      <source>Apply</source>
+      <translation>החל</translation>
+    </message>
+    <message>
+      <source>OK</source>
+      <translation>אישור</translation>
+    </message>
+    <message>
+      <source>Cancel</source>
+      <translation>ביטול</translation>
+    </message>
+  </context>
+  <context>
     <name>ui_tavTypeList</name>
     <message>
       <source>Infinity</source>
@@ -647,6 +1339,13 @@
     <message>
       <source>tavoric</source>
       <translation>tavoric</translation>
+    </message>
+  </context>
+  <context>
+    <name>ui_waitAlertView</name>
+    <message>
+      <source>Please wait...</source>
+      <translation>נא להמתין...</translation>
     </message>
   </context>
   <context>

@@ -2,10 +2,56 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ko_KR">
   <context>
+    <name>CardSession</name>
+    <message>
+      <source>The memory card was removed.</source>
+      <translation>메모리 카드가 제거되었습니다.</translation>
+    </message>
+  </context>
+  <context>
     <name>ChannelChoices</name>
     <message>
       <source>No picture</source>
       <translation>영상 없음</translation>
+    </message>
+  </context>
+  <context>
+    <name>ConfigAccess</name>
+    <message>
+      <source>Error is occured!</source>
+      <translation>오류가 발생했습니다!</translation>
+    </message>
+    <message>
+      <source>This model is not supported!</source>
+      <translation>지원하지 않는 모델입니다!</translation>
+    </message>
+    <message>
+      <source>checksum is different!</source>
+      <translation>체크섬이 다릅니다!</translation>
+    </message>
+    <message>
+      <source>Setting file is not exist!</source>
+      <translation>설정 파일이 없습니다!</translation>
+    </message>
+    <message>
+      <source>This model is not support!</source>
+      <translation>지원하지 않는 모델입니다!</translation>
+    </message>
+    <message>
+      <source>The settings were not written: the SD card is not the one that was opened.</source>
+      <translation>설정을 저장하지 않았습니다: 열었던 SD 카드가 아닙니다.</translation>
+    </message>
+    <message>
+      <source>The settings could not be written to the SD card, and its previous settings could not be put back.</source>
+      <translation>설정을 SD 카드에 저장하지 못했고, 이전 설정도 되돌리지 못했습니다.</translation>
+    </message>
+    <message>
+      <source>The settings could not be written to the SD card. Its previous settings are kept.</source>
+      <translation>설정을 SD 카드에 저장하지 못했습니다. 이전 설정이 유지됩니다.</translation>
+    </message>
+    <message>
+      <source>Fail to format SDCard!</source>
+      <translation>SD 카드 포맷에 실패했습니다!</translation>
     </message>
   </context>
   <context>
@@ -25,6 +71,45 @@
     <message>
       <source>ffmpeg cannot be started: %1</source>
       <translation>ffmpeg를 시작할 수 없습니다: %1</translation>
+    </message>
+  </context>
+  <context>
+    <name>FileFormatThread</name>
+    <message>
+      <source>The SD card was not formatted: its configuration could not be saved.</source>
+      <translation>SD 카드를 포맷하지 않았습니다: 설정을 보관할 수 없었습니다.</translation>
+    </message>
+    <message>
+      <source>The configuration could not be put back on the SD card.</source>
+      <translation>설정을 SD 카드에 되돌려 놓지 못했습니다.</translation>
+    </message>
+    <message>
+      <source>The configuration could not be put back on the SD card. It is kept in %1.</source>
+      <translation>설정을 SD 카드에 되돌려 놓지 못했습니다. 설정은 %1에 보관되어 있습니다.</translation>
+    </message>
+    <message>
+      <source>The SD card is not the one that was opened, or it is no longer mounted. Nothing on it was changed.</source>
+      <translation>열었던 SD 카드가 아니거나 더 이상 연결되어 있지 않습니다. 카드는 변경되지 않았습니다.</translation>
+    </message>
+    <message>
+      <source>The SD card is no longer mounted. Nothing on it was changed.</source>
+      <translation>SD 카드가 더 이상 연결되어 있지 않습니다. 카드는 변경되지 않았습니다.</translation>
+    </message>
+    <message>
+      <source>You have no permission to format %1. Nothing on the SD card was changed.</source>
+      <translation>%1을(를) 포맷할 권한이 없습니다. SD 카드는 변경되지 않았습니다.</translation>
+    </message>
+    <message>
+      <source>The SD card could not be unmounted (%1). Nothing on it was changed.</source>
+      <translation>SD 카드의 연결을 해제하지 못했습니다 (%1). 카드는 변경되지 않았습니다.</translation>
+    </message>
+    <message>
+      <source>The formatter %1 could not be started. Nothing on the SD card was changed.</source>
+      <translation>포맷 프로그램 %1을(를) 실행하지 못했습니다. SD 카드는 변경되지 않았습니다.</translation>
+    </message>
+    <message>
+      <source>The formatter failed with exit code %1.</source>
+      <translation>포맷 프로그램이 종료 코드 %1로 실패했습니다.</translation>
     </message>
   </context>
   <context>
@@ -181,6 +266,41 @@
     </message>
   </context>
   <context>
+    <name>SDCardView</name>
+    <message>
+      <source>Drive</source>
+      <translation>드라이브</translation>
+    </message>
+    <message>
+      <source>Name</source>
+      <translation>이름</translation>
+    </message>
+    <message>
+      <source>Total</source>
+      <translation>전체</translation>
+    </message>
+    <message>
+      <source>Used</source>
+      <translation>사용</translation>
+    </message>
+    <message>
+      <source>Free</source>
+      <translation>여유</translation>
+    </message>
+    <message>
+      <source>SD Card is not selected!</source>
+      <translation>SD 카드를 선택하지 않았습니다!</translation>
+    </message>
+    <message>
+      <source>SD Card is not connected!</source>
+      <translation>SD 카드가 연결되어 있지 않습니다!</translation>
+    </message>
+    <message>
+      <source>SD Card is Empty!</source>
+      <translation>SD 카드가 비어 있습니다!</translation>
+    </message>
+  </context>
+  <context>
     <name>SaveAsView</name>
     <message>
       <source>There is no select channel</source>
@@ -265,6 +385,480 @@
     <message>
       <source>The video is still being saved. Stop saving it?</source>
       <translation>영상을 저장하는 중입니다. 저장을 중지하시겠습니까?</translation>
+    </message>
+  </context>
+  <context>
+    <name>SettingOpt</name>
+    <message>
+      <source>Camera</source>
+      <translation>카메라</translation>
+    </message>
+    <message>
+      <source>Front Resolution</source>
+      <translation>전방 해상도</translation>
+    </message>
+    <message>
+      <source>1080p FHD</source>
+      <translation>1080p FHD</translation>
+    </message>
+    <message>
+      <source>1440p QHD</source>
+      <translation>1440p QHD</translation>
+    </message>
+    <message>
+      <source>Rear Resolution</source>
+      <translation>후방 해상도</translation>
+    </message>
+    <message>
+      <source>720p HD</source>
+      <translation>720p HD</translation>
+    </message>
+    <message>
+      <source>Frame Rate</source>
+      <translation>프레임 속도</translation>
+    </message>
+    <message>
+      <source>30 fps</source>
+      <translation>30 fps</translation>
+    </message>
+    <message>
+      <source>60 fps</source>
+      <translation>60 fps</translation>
+    </message>
+    <message>
+      <source>Exposure</source>
+      <translation>노출</translation>
+    </message>
+    <message>
+      <source>Video Bitrate</source>
+      <translation>영상 비트레이트</translation>
+    </message>
+    <message>
+      <source>A higher bitrate keeps more detail and fits less time on the card.</source>
+      <translation>비트레이트가 높을수록 더 선명하지만 카드에 저장되는 시간은 짧아집니다.</translation>
+    </message>
+    <message>
+      <source>Low</source>
+      <translation>낮음</translation>
+    </message>
+    <message>
+      <source>Normal</source>
+      <translation>보통</translation>
+    </message>
+    <message>
+      <source>High</source>
+      <translation>높음</translation>
+    </message>
+    <message>
+      <source>Record Audio</source>
+      <translation>음성 녹음</translation>
+    </message>
+    <message>
+      <source>Off</source>
+      <translation>끔</translation>
+    </message>
+    <message>
+      <source>On</source>
+      <translation>켬</translation>
+    </message>
+    <message>
+      <source>Date Stamp</source>
+      <translation>날짜 표시</translation>
+    </message>
+    <message>
+      <source>Speed Stamp</source>
+      <translation>속도 표시</translation>
+    </message>
+    <message>
+      <source>Rear Camera Mirror</source>
+      <translation>후방 카메라 좌우 반전</translation>
+    </message>
+    <message>
+      <source>Battery Protection</source>
+      <translation>배터리 보호</translation>
+    </message>
+    <message>
+      <source>Parking Mode</source>
+      <translation>주차 모드</translation>
+    </message>
+    <message>
+      <source>Impact only</source>
+      <translation>충격만</translation>
+    </message>
+    <message>
+      <source>Motion and impact</source>
+      <translation>움직임과 충격</translation>
+    </message>
+    <message>
+      <source>Time lapse</source>
+      <translation>타임랩스</translation>
+    </message>
+    <message>
+      <source>Low Voltage Cut-off</source>
+      <translation>저전압 차단</translation>
+    </message>
+    <message>
+      <source>Stops recording before the car battery runs too low to start the engine.</source>
+      <translation>차량 배터리가 시동을 걸 수 없을 만큼 낮아지기 전에 녹화를 멈춥니다.</translation>
+    </message>
+    <message>
+      <source>Cut-off Voltage</source>
+      <translation>차단 전압</translation>
+    </message>
+    <message>
+      <source>11.8V</source>
+      <translation>11.8V</translation>
+    </message>
+    <message>
+      <source>12.0V</source>
+      <translation>12.0V</translation>
+    </message>
+    <message>
+      <source>12.2V</source>
+      <translation>12.2V</translation>
+    </message>
+    <message>
+      <source>12.4V</source>
+      <translation>12.4V</translation>
+    </message>
+    <message>
+      <source>Parking Timer</source>
+      <translation>주차 녹화 시간</translation>
+    </message>
+    <message>
+      <source>6 h</source>
+      <translation>6시간</translation>
+    </message>
+    <message>
+      <source>12 h</source>
+      <translation>12시간</translation>
+    </message>
+    <message>
+      <source>24 h</source>
+      <translation>24시간</translation>
+    </message>
+    <message>
+      <source>48 h</source>
+      <translation>48시간</translation>
+    </message>
+    <message>
+      <source>Memory</source>
+      <translation>메모리</translation>
+    </message>
+    <message>
+      <source>Memory Allocation</source>
+      <translation>메모리 할당</translation>
+    </message>
+    <message>
+      <source>Changing it formats the memory card.</source>
+      <translation>변경하면 메모리 카드가 포맷됩니다.</translation>
+    </message>
+    <message>
+      <source>Driving priority</source>
+      <translation>주행 우선</translation>
+    </message>
+    <message>
+      <source>Event priority</source>
+      <translation>이벤트 우선</translation>
+    </message>
+    <message>
+      <source>Parking priority</source>
+      <translation>주차 우선</translation>
+    </message>
+    <message>
+      <source>Driving only</source>
+      <translation>주행 전용</translation>
+    </message>
+    <message>
+      <source>Overwrite Events</source>
+      <translation>이벤트 덮어쓰기</translation>
+    </message>
+    <message>
+      <source>Recording Length</source>
+      <translation>녹화 길이</translation>
+    </message>
+    <message>
+      <source>1 min</source>
+      <translation>1분</translation>
+    </message>
+    <message>
+      <source>2 min</source>
+      <translation>2분</translation>
+    </message>
+    <message>
+      <source>3 min</source>
+      <translation>3분</translation>
+    </message>
+    <message>
+      <source>Sensitive</source>
+      <translation>감도</translation>
+    </message>
+    <message>
+      <source>Driving Impact Sensitivity</source>
+      <translation>주행 충격 감도</translation>
+    </message>
+    <message>
+      <source>Lowest</source>
+      <translation>가장 낮음</translation>
+    </message>
+    <message>
+      <source>Middle</source>
+      <translation>중간</translation>
+    </message>
+    <message>
+      <source>Highest</source>
+      <translation>가장 높음</translation>
+    </message>
+    <message>
+      <source>Parking Impact Sensitivity</source>
+      <translation>주차 충격 감도</translation>
+    </message>
+    <message>
+      <source>Motion Detection Sensitivity</source>
+      <translation>움직임 감지 감도</translation>
+    </message>
+    <message>
+      <source>System</source>
+      <translation>시스템</translation>
+    </message>
+    <message>
+      <source>Time Zone</source>
+      <translation>시간대</translation>
+    </message>
+    <message>
+      <source>UTC-12:00</source>
+      <translation>UTC-12:00</translation>
+    </message>
+    <message>
+      <source>UTC-11:00</source>
+      <translation>UTC-11:00</translation>
+    </message>
+    <message>
+      <source>UTC-10:00</source>
+      <translation>UTC-10:00</translation>
+    </message>
+    <message>
+      <source>UTC-09:00</source>
+      <translation>UTC-09:00</translation>
+    </message>
+    <message>
+      <source>UTC-08:00</source>
+      <translation>UTC-08:00</translation>
+    </message>
+    <message>
+      <source>UTC-07:00</source>
+      <translation>UTC-07:00</translation>
+    </message>
+    <message>
+      <source>UTC-06:00</source>
+      <translation>UTC-06:00</translation>
+    </message>
+    <message>
+      <source>UTC-05:00</source>
+      <translation>UTC-05:00</translation>
+    </message>
+    <message>
+      <source>UTC-04:00</source>
+      <translation>UTC-04:00</translation>
+    </message>
+    <message>
+      <source>UTC-03:00</source>
+      <translation>UTC-03:00</translation>
+    </message>
+    <message>
+      <source>UTC-02:00</source>
+      <translation>UTC-02:00</translation>
+    </message>
+    <message>
+      <source>UTC-01:00</source>
+      <translation>UTC-01:00</translation>
+    </message>
+    <message>
+      <source>UTC+00:00</source>
+      <translation>UTC+00:00</translation>
+    </message>
+    <message>
+      <source>UTC+01:00</source>
+      <translation>UTC+01:00</translation>
+    </message>
+    <message>
+      <source>UTC+02:00</source>
+      <translation>UTC+02:00</translation>
+    </message>
+    <message>
+      <source>UTC+03:00</source>
+      <translation>UTC+03:00</translation>
+    </message>
+    <message>
+      <source>UTC+04:00</source>
+      <translation>UTC+04:00</translation>
+    </message>
+    <message>
+      <source>UTC+05:00</source>
+      <translation>UTC+05:00</translation>
+    </message>
+    <message>
+      <source>UTC+05:30</source>
+      <translation>UTC+05:30</translation>
+    </message>
+    <message>
+      <source>UTC+05:45</source>
+      <translation>UTC+05:45</translation>
+    </message>
+    <message>
+      <source>UTC+06:00</source>
+      <translation>UTC+06:00</translation>
+    </message>
+    <message>
+      <source>UTC+07:00</source>
+      <translation>UTC+07:00</translation>
+    </message>
+    <message>
+      <source>UTC+08:00</source>
+      <translation>UTC+08:00</translation>
+    </message>
+    <message>
+      <source>UTC+09:00</source>
+      <translation>UTC+09:00</translation>
+    </message>
+    <message>
+      <source>UTC+09:30</source>
+      <translation>UTC+09:30</translation>
+    </message>
+    <message>
+      <source>UTC+10:00</source>
+      <translation>UTC+10:00</translation>
+    </message>
+    <message>
+      <source>UTC+11:00</source>
+      <translation>UTC+11:00</translation>
+    </message>
+    <message>
+      <source>UTC+12:00</source>
+      <translation>UTC+12:00</translation>
+    </message>
+    <message>
+      <source>UTC+13:00</source>
+      <translation>UTC+13:00</translation>
+    </message>
+    <message>
+      <source>UTC+14:00</source>
+      <translation>UTC+14:00</translation>
+    </message>
+    <message>
+      <source>Daylight Saving Time</source>
+      <translation>서머타임</translation>
+    </message>
+    <message>
+      <source>Speed Unit</source>
+      <translation>속도 단위</translation>
+    </message>
+    <message>
+      <source>km/h</source>
+      <translation>km/h</translation>
+    </message>
+    <message>
+      <source>mph</source>
+      <translation>mph</translation>
+    </message>
+    <message>
+      <source>Volume</source>
+      <translation>음량</translation>
+    </message>
+    <message>
+      <source>Mute</source>
+      <translation>무음</translation>
+    </message>
+    <message>
+      <source>Voice Guidance</source>
+      <translation>음성 안내</translation>
+    </message>
+    <message>
+      <source>Model Name</source>
+      <translation>모델명</translation>
+    </message>
+    <message>
+      <source>Firmware Version</source>
+      <translation>펌웨어 버전</translation>
+    </message>
+    <message>
+      <source>Interior Camera</source>
+      <translation>실내 카메라</translation>
+    </message>
+    <message>
+      <source>Wi-Fi</source>
+      <translation>Wi-Fi</translation>
+    </message>
+    <message>
+      <source>Wifi Password</source>
+      <translation>Wi-Fi 비밀번호</translation>
+    </message>
+    <message>
+      <source>The last four characters of the camera's serial number.</source>
+      <translation>카메라 일련번호의 마지막 네 글자입니다.</translation>
+    </message>
+    <message>
+      <source>2160p UHD</source>
+      <translation>2160p UHD</translation>
+    </message>
+    <message>
+      <source>Night Vision</source>
+      <translation>야간 보정</translation>
+    </message>
+    <message>
+      <source>LCD Auto Off</source>
+      <translation>LCD 자동 꺼짐</translation>
+    </message>
+  </context>
+  <context>
+    <name>SettingView</name>
+    <message>
+      <source>There are unsaved settings.</source>
+      <translation>저장하지 않은 설정이 있습니다.</translation>
+    </message>
+    <message>
+      <source>SD is not exist!</source>
+      <translation>SD 카드가 없습니다!</translation>
+    </message>
+    <message>
+      <source>File Format</source>
+      <translation>파일 포맷</translation>
+    </message>
+    <message>
+      <source>Do you Really want to file format?</source>
+      <translation>정말 포맷하시겠습니까?</translation>
+    </message>
+    <message>
+      <source>It can't go back if you clicked yes.</source>
+      <translation>예를 누르면 되돌릴 수 없습니다.</translation>
+    </message>
+    <message>
+      <source>Error Occured!</source>
+      <translation>오류가 발생했습니다!</translation>
+    </message>
+    <message>
+      <source>Complete!</source>
+      <translation>완료되었습니다!</translation>
+    </message>
+    <message>
+      <source>Device Reset</source>
+      <translation>기기 초기화</translation>
+    </message>
+    <message>
+      <source>The memory will be formatted to return some settings to defaults.</source>
+      <translation>일부 설정을 기본값으로 되돌리기 위해 메모리가 포맷됩니다.</translation>
+    </message>
+    <message>
+      <source>Would you like to return your device to factory settings?</source>
+      <translation>기기를 공장 설정으로 되돌리시겠습니까?</translation>
+    </message>
+    <message>
+      <source>Program Reset</source>
+      <translation>프로그램 초기화</translation>
+    </message>
+    <message>
+      <source>Program will be quit.</source>
+      <translation>프로그램이 종료됩니다.</translation>
     </message>
   </context>
   <context>
@@ -550,6 +1144,29 @@
     </message>
   </context>
   <context>
+    <name>ui_sDCardView</name>
+    <message>
+      <source>Memory Card</source>
+      <translation>메모리 카드</translation>
+    </message>
+    <message>
+      <source>Choose the memory card of your dash camera.</source>
+      <translation>블랙박스의 메모리 카드를 선택하세요.</translation>
+    </message>
+    <message>
+      <source>Refresh</source>
+      <translation>새로 고침</translation>
+    </message>
+    <message>
+      <source>Open</source>
+      <translation>열기</translation>
+    </message>
+    <message>
+      <source>Cancel</source>
+      <translation>취소</translation>
+    </message>
+  </context>
+  <context>
     <name>ui_saveAsView</name>
     <message>
       <source>Choose Save Scene</source>
@@ -617,6 +1234,81 @@
     </message>
   </context>
   <context>
+    <name>ui_settingView</name>
+    <message>
+      <source>Settings</source>
+      <translation>설정</translation>
+    </message>
+    <message>
+      <source>Device</source>
+      <translation>기기</translation>
+    </message>
+    <message>
+      <source>Camera</source>
+      <translation>카메라</translation>
+    </message>
+    <message>
+      <source>Battery Protection</source>
+      <translation>배터리 보호</translation>
+    </message>
+    <message>
+      <source>Memory</source>
+      <translation>메모리</translation>
+    </message>
+    <message>
+      <source>Sensitive</source>
+      <translation>감도</translation>
+    </message>
+    <message>
+      <source>System</source>
+      <translation>시스템</translation>
+    </message>
+    <message>
+      <source>PCViewer</source>
+      <translation>PC 뷰어</translation>
+    </message>
+    <message>
+      <source>Program Setting</source>
+      <translation>프로그램 설정</translation>
+    </message>
+    <message>
+      <source>Update</source>
+      <translation>업데이트</translation>
+    </message>
+    <message>
+      <source>Open a memory card to see the settings of its camera.</source>
+      <translation>카메라 설정을 보려면 메모리 카드를 여세요.</translation>
+    </message>
+    <message>
+      <source>A program reset returns the window, language, sound and folders to their first start and starts the program again.</source>
+      <translation>프로그램 초기화는 창, 언어, 소리, 폴더를 처음 실행한 상태로 되돌리고 프로그램을 다시 시작합니다.</translation>
+    </message>
+    <message>
+      <source>Program Reset</source>
+      <translation>프로그램 초기화</translation>
+    </message>
+    <message>
+      <source>File Format</source>
+      <translation>파일 포맷</translation>
+    </message>
+    <message>
+      <source>Device Reset</source>
+      <translation>기기 초기화</translation>
+    </message>
+    <message>
+      <source>Apply</source>
+      <translation>적용</translation>
+    </message>
+    <message>
+      <source>OK</source>
+      <translation>확인</translation>
+    </message>
+    <message>
+      <source>Cancel</source>
+      <translation>취소</translation>
+    </message>
+  </context>
+  <context>
     <name>ui_tavTypeList</name>
     <message>
       <source>Infinity</source>
@@ -640,6 +1332,13 @@
     <message>
       <source>tavoric</source>
       <translation>tavoric</translation>
+    </message>
+  </context>
+  <context>
+    <name>ui_waitAlertView</name>
+    <message>
+      <source>Please wait...</source>
+      <translation>잠시 기다려 주세요...</translation>
     </message>
   </context>
   <context>
