@@ -14,7 +14,7 @@ TAVORIC_PACKAGES=(
     rapidjson-dev libavformat-dev libavcodec-dev libavutil-dev ffmpeg
     libssl-dev dosfstools mtools
     xvfb xauth x11-apps imagemagick xdotool
-    libbenchmark-dev g++-mingw-w64-x86-64
+    libbenchmark-dev g++-mingw-w64-x86-64 libimage-exiftool-perl
     fonts-noto-core fonts-noto-cjk
 )
 
