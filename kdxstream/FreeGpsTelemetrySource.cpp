@@ -20,8 +20,6 @@ constexpr std::uint32_t kMaxListed = 86400;
 // What is searched of one gap for the start of a block.
 constexpr std::size_t kGapSearch = 64u << 10;
 
-const char kMagic[] = "freeGPS ";
-
 // The byte ranges of the media data that a track's samples cover, merged and in order.
 std::vector<std::pair<std::int64_t, std::int64_t>> coveredRanges(AVFormatContext* format) {
     std::vector<std::pair<std::int64_t, std::int64_t>> ranges;

@@ -23,7 +23,9 @@ void ResampledTelemetrySource::readOnce() {
         m_readings.begin(), m_readings.end(),
         [](const TelemetryReading& a, const TelemetryReading& b) { return a.timeMs < b.timeMs; });
     ReadingGrid::setDurations(m_readings);
-    KDX_Trace("kdxstream: %s telemetry: %zu readings", kind(), m_readings.size());
+    if (m_readResult != KDX_OK)
+        KDX_Trace("kdxstream: %s telemetry could not be read to its end (%zu readings)", kind(),
+                  m_readings.size());
 }
 
 const std::vector<TelemetryReading>& ResampledTelemetrySource::readings() {

@@ -34,8 +34,6 @@ TelemetrySourceFinder::find(AVFormatContext* format, const std::string& path, st
         !(found = NmeaTextTelemetrySource::create(format, file, spanMs)) &&
         !(found = NmeaBoxTelemetrySource::create(file, spanMs)))
         found = FreeGpsTelemetrySource::create(format, file, spanMs);
-    if (found)
-        KDX_Trace("kdxstream: telemetry of another camera: %s", found->kind());
     return found;
 }
 
