@@ -83,7 +83,7 @@ int StreamReader::open(const char* path) {
         KDX_Trace("kdxstream: cannot open the recording (%s)", reason);
         return KDX_ERR_OPEN;
     }
-    m_telemetry = TelemetrySourceFinder::find(m_format);
+    m_telemetry = TelemetrySourceFinder::find(m_format, path, totalRangeMs());
     return KDX_OK;
 }
 

@@ -24,6 +24,10 @@ public:
     int fillInfo(KDXInfo& info) const;
     int readFrame(KDXFrameDescriptor& descriptor);
 
+    // The recording's telemetry, null without; for tests and tools that want the readings
+    // themselves rather than the player's frames.
+    TelemetrySource* telemetry() const { return m_telemetry.get(); }
+
 private:
     int openAs(const char* path, const char* formatName);
     std::int32_t totalRangeMs() const;

@@ -7,8 +7,8 @@
 namespace kdx {
 
 // Where a recording's telemetry readings come from. There is one implementation per way a
-// camera stores them: our timed-text track today; NMEA sentences in a text track or a
-// vendor's own boxes can be added beside it and chosen by TelemetrySourceFinder.
+// camera stores them (our timed-text track; GPMF tracks, freeGPS blocks and NMEA sentences
+// of other cameras), chosen by TelemetrySourceFinder.
 class TelemetrySource {
 public:
     virtual ~TelemetrySource() = default;
@@ -22,6 +22,9 @@ public:
     // The next reading, in time order: KDX_OK with the frame's time and reading fields
     // filled, KDX_ERR_END after the last one, KDX_ERR_READ when the file cannot be read.
     virtual int next(KDXTextFrame& frame) = 0;
+
+    // A short name of the layout ("timed text", "GPMF", ...), for trace lines and tests.
+    virtual const char* kind() const = 0;
 };
 
 } // namespace kdx

@@ -25,6 +25,7 @@ public:
     std::uint32_t sampleCount() const override;
     std::int32_t durationMs() const override;
     int next(KDXTextFrame& frame) override;
+    const char* kind() const override { return "timed text"; }
 
 private:
     TimedTextTelemetrySource(AVFormatContext* format, int streamIndex);

@@ -1,5 +1,6 @@
 #include "ChannelPlayers.h"
 
+#include "ChannelFiles.h"
 #include "VlcCompat.h"
 
 #include <QDir>
@@ -79,19 +80,12 @@ int ChannelPlayers::open(const char* path, bool split, int count, const uintptr_
     }
 
     VlcCompat::forgetTrackChoices();
-    const QFileInfo info(QDir::toNativeSeparators(QString::fromUtf8(path)));
-    const QString directory = info.absolutePath();
-    const QString baseName = info.completeBaseName();
-    const QString stem =
-        baseName.lastIndexOf('_') >= 0 ? baseName.left(baseName.size() - 2) : baseName;
+    // The recording's files beside path, front camera first, by the list's own rules.
+    const QString given = QFileInfo(QString::fromUtf8(path)).absoluteFilePath();
     QStringList found;
-    for (const char* suffix : {"_1.mp4", "_2.mp4", "_3.mp4"}) {
-        const QString candidate =
-            QDir::toNativeSeparators(directory + QDir::separator() + stem + QLatin1String(suffix));
-        const QFileInfo candidateInfo(candidate);
-        if (candidateInfo.exists() && candidateInfo.isFile())
-            found << candidate;
-    }
+    for (const QString& file : ChannelFiles::onDisk(given))
+        if (!file.isEmpty())
+            found << QDir::toNativeSeparators(file);
     int opened = -1;
     for (int i = 0; i < kMaxChannels && i < found.size(); ++i) {
         // libvlc takes paths as UTF-8 on every system.

@@ -1,5 +1,6 @@
 #include "VLCComponent.h"
 
+#include "ChannelFiles.h"
 #include "ChannelGate.h"
 #include "FreedMemory.h"
 #include "PausedJoin.h"
@@ -88,12 +89,9 @@ int VLCComponent::seekableChannels() const {
 
 bool VLCComponent::IsSplitChannelFile(const char* path) {
     logDebug("VLCComponent::IsSplitChannelFile");
-    const size_t length = path != nullptr ? std::strlen(path) : 0;
-    m_splitChannelFiles = false;
-    for (const char* suffix : {"_1.mp4", "_2.mp4", "_3.mp4"}) {
-        if (length >= 6 && std::strcmp(path + length - 6, suffix) == 0)
-            m_splitChannelFiles = true;
-    }
+    // The file list groups a recording's files by the same rules: what it lists as one
+    // recording of channel files plays as one here.
+    m_splitChannelFiles = path != nullptr && ChannelFiles::channelOf(QString::fromUtf8(path)) >= 0;
     return m_splitChannelFiles;
 }
 

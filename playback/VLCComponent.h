@@ -60,6 +60,8 @@ public:
     explicit VLCComponent(QObject* parent = nullptr);
     ~VLCComponent() override;
 
+    // Whether path is one of a recording's channel files (ChannelFiles), which the engine
+    // opens together; else it plays one file, its video tracks being the channels.
     bool IsSplitChannelFile(const char* path);
     void SetFile(char* path, int count, double totalTime);
     void SetVideoWindow(int index, QWidget* widget);

@@ -1,6 +1,7 @@
 #include "FileListLoader.h"
 
 #include "CameraCountDelegate.h"
+#include "NameSchemes.h"
 #include "PlayerInterface.h"
 #include "RecordingBatch.h"
 #include "RecordingName.h"
@@ -16,7 +17,18 @@
 FileListLoader::FileListLoader(TavFileListItem& list) : m_list(list) {}
 
 QStringList FileListLoader::folderFiles(const QString& folder, QSet<QString>* listed) {
+    QStringList files = filesOf(QDir(folder), listed);
+    // Many cameras keep their recordings in folders named after the type ("Normal", "Event",
+    // "Parking", "Manual"): the files of those folders are the folder's recordings too.
     const QDir dir(folder);
+    for (const QString& name : dir.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name)) {
+        if (name.size() >= 3 && NameSchemes::typeOfWord(name) != 0)
+            files << filesOf(QDir(dir.absoluteFilePath(name)), listed);
+    }
+    return files;
+}
+
+QStringList FileListLoader::filesOf(const QDir& dir, QSet<QString>* listed) {
     QStringList files;
     for (const QString& name : dir.entryList(QDir::Files, QDir::Unsorted))
         files << dir.absoluteFilePath(name);

@@ -2,6 +2,7 @@
 
 #include "RecordingRecord.h"
 
+#include <QDir>
 #include <QSet>
 #include <QStringList>
 #include <QVector>
@@ -27,9 +28,11 @@ public:
     void load(const QStringList& paths, const QSet<QString>& listedFolders = {});
 
 private:
-    // A folder's files (not its folders), unsorted, as absolute paths; the folder is added
-    // to listed.
+    // A folder's files, unsorted, as absolute paths, with those of its type folders
+    // ("Event", "Parking", ...); each folder that gave files is added to listed.
     static QStringList folderFiles(const QString& folder, QSet<QString>* listed);
+    // One folder's files alone.
+    static QStringList filesOf(const QDir& dir, QSet<QString>* listed);
     // Whether the recording has a row already, under any of its channel files.
     static bool isListed(const RecordingRecord& record);
     void append(RecordingRecord record);

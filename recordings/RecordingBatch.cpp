@@ -1,5 +1,6 @@
 #include "RecordingBatch.h"
 
+#include "ChannelFiles.h"
 #include "RecordingName.h"
 
 #include <QFileInfo>
@@ -9,9 +10,7 @@
 
 namespace {
 
-constexpr int kChannels = 3;
-// "_1.mp4": what follows the stem in a channel file's name.
-constexpr int kChannelSuffixSize = 6;
+constexpr int kChannels = ChannelFiles::kChannels;
 
 // The paths of one recording, as the load names them.
 struct Recording {
@@ -20,15 +19,23 @@ struct Recording {
     QStringList repeats;                     // suffix entries of paths given twice running
 };
 
-// Fills in the channel files on disk that the load did not name, as the player finds them.
-void addSiblingsOnDisk(Recording& recording, const QString& key) {
+// Fills in the channel files on disk that the load did not name, as the player finds them
+// from member, one of the recording's files.
+void addSiblingsOnDisk(Recording& recording, const QString& member) {
     for (int channel = 0; channel < kChannels; ++channel) {
         if (!recording.channels[channel].isEmpty())
             continue;
-        const QString candidate = key + QLatin1String(RecordingName::kMp4ChannelSuffixes[channel]);
+        const QString candidate = ChannelFiles::siblingPath(member, channel);
         if (QFileInfo(candidate).isFile())
             recording.channels[channel] = candidate;
     }
+}
+
+QString anyChannel(const Recording& recording) {
+    for (const QString& file : recording.channels)
+        if (!file.isEmpty())
+            return file;
+    return QString();
 }
 
 RecordingRecord recordOf(const Recording& recording, int row) {
@@ -49,16 +56,12 @@ RecordingRecord recordOf(const Recording& recording, int row) {
 } // namespace
 
 QString RecordingBatch::recordingKey(const QString& path) {
-    return RecordingName::isChannelFile(path) ? path.left(path.size() - kChannelSuffixSize) : path;
+    return ChannelFiles::recordingKey(path);
 }
 
 QStringList RecordingBatch::filesOnDisk(const QString& path) {
-    if (!RecordingName::isChannelFile(path))
-        return QFileInfo(path).isFile() ? QStringList{path} : QStringList();
-    Recording recording;
-    addSiblingsOnDisk(recording, recordingKey(path));
     QStringList files;
-    for (const QString& file : recording.channels)
+    for (const QString& file : ChannelFiles::onDisk(path))
         if (!file.isEmpty())
             files << file;
     return files;
@@ -112,7 +115,7 @@ QVector<RecordingRecord> RecordingBatch::fromPaths(const QStringList& paths,
         // A folder listed whole already named every file it has.
         if (recording.single.isEmpty() && !complete &&
             !listedFolders.contains(folderOf(keys.at(i))))
-            addSiblingsOnDisk(recording, keys.at(i));
+            addSiblingsOnDisk(recording, anyChannel(recording));
         RecordingRecord record = recordOf(recording, batch.size());
         for (const QString& suffix : recording.repeats)
             if (record.suffixCount < int(record.suffixes.size()))

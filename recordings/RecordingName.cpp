@@ -1,8 +1,12 @@
 #include "RecordingName.h"
 
+#include "ChannelFiles.h"
+#include "ContainerClock.h"
 #include "KDXData.h"
+#include "NameSchemes.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <QStringList>
@@ -42,6 +46,14 @@ const QRegularExpression& twoDigitAvi() {
 } // namespace
 
 bool RecordingName::isSupportedName(const QString& path) {
+    if (isOwnName(path))
+        return true;
+    const QFileInfo info(path);
+    const QString name = info.fileName();
+    return !NameSchemes::isOwnForm(name) && NameSchemes::parse(name).valid;
+}
+
+bool RecordingName::isOwnName(const QString& path) {
     const QString name = QFileInfo(path).fileName();
     if (name.split('_', Qt::KeepEmptyParts).size() < 4)
         return false;
@@ -76,6 +88,14 @@ int RecordingName::typeFromName(const QString& fileName) {
     return Unknown;
 }
 
+int RecordingName::typeOf(const QString& path) {
+    const QFileInfo info(path);
+    const QString name = info.fileName();
+    if (NameSchemes::isOwnForm(name))
+        return typeFromName(name);
+    return NameSchemes::parse(name, info.dir().dirName()).type;
+}
+
 QString RecordingName::typeLabel(int type) {
     static const char* const labels[] = {"", "I", "E", "P", "U"};
     return (type >= Infinity && type <= User) ? QString::fromLatin1(labels[type]) : QString();
@@ -99,10 +119,7 @@ bool RecordingName::isChannelFile(const QString& name) {
 }
 
 int RecordingName::channelIndex(const QString& name) {
-    for (int channel = 0; channel < 3; ++channel)
-        if (name.endsWith(QLatin1String(kMp4ChannelSuffixes[channel])))
-            return channel;
-    return -1;
+    return ChannelFiles::channelOf(name);
 }
 
 QString RecordingName::recordingName(const QString& fileName) {
@@ -118,14 +135,42 @@ QString RecordingName::recordingName(const QString& fileName) {
 QString RecordingName::siblingChannelPath(const QString& path, int channel) {
     if (channel < 0 || channel > 2)
         return QString();
-    for (const auto* suffixes : {kMp4ChannelSuffixes, kAviChannelSuffixes}) {
-        for (int i = 0; i < 3; ++i) {
-            const QLatin1String suffix(suffixes[i]);
-            if (path.endsWith(suffix))
-                return path.left(path.size() - suffix.size()) + QLatin1String(suffixes[channel]);
-        }
+    for (int i = 0; i < 3; ++i) {
+        const QLatin1String suffix(kAviChannelSuffixes[i]);
+        if (path.endsWith(suffix))
+            return path.left(path.size() - suffix.size()) +
+                   QLatin1String(kAviChannelSuffixes[channel]);
     }
-    return QString();
+    return ChannelFiles::siblingPath(path, channel);
+}
+
+QString RecordingName::displayName(const QString& path) {
+    const QFileInfo info(path);
+    const QString name = info.fileName();
+    if (NameSchemes::isOwnForm(name) || isOwnName(path))
+        return recordingName(name);
+    const ForeignName foreign = NameSchemes::parse(name, info.dir().dirName());
+    QDateTime start = foreign.start;
+    if (foreign.valid && !start.isValid())
+        start = ContainerClock::creationTime(path);
+    if (foreign.valid && !start.isValid() && info.exists())
+        start = info.lastModified().toUTC();
+    if (!start.isValid())
+        return info.completeBaseName();
+    static const char* const codes[] = {"", "INF", "EVT", "PRK", "USR"};
+    const QString stamp = start.toString(QStringLiteral("yyyyMMdd_HHmmss"));
+    return foreign.type >= Infinity && foreign.type <= User
+               ? stamp + QLatin1Char('_') + QLatin1String(codes[foreign.type])
+               : stamp;
+}
+
+QString RecordingName::sortKey(const QString& path, const QString& displayName) {
+    const QString name = QFileInfo(path).fileName();
+    if (NameSchemes::isOwnForm(name))
+        return name;
+    // A blank sorts before "_" and every digit: another camera's recording comes before the
+    // camera's own of the same second, and its files keep their own order among themselves.
+    return displayName + QLatin1Char(' ') + name;
 }
 
 RecordingName::Length RecordingName::readLength(const QString& path) {

@@ -12,10 +12,11 @@ RecordingRecord RecordingRecord::fromPath(const QString& path, int row) {
     record.filePath = path;
     record.fileSize = info.size();
     record.suffixes[0] = info.completeSuffix();
-    record.type = RecordingName::typeFromName(record.fileName);
+    record.type = RecordingName::typeOf(path);
     record.channelFiles = QStringList{path};
     record.cameraCount = record.hasChannelFiles() ? 1 : 0;
-    record.displayName = RecordingName::recordingName(record.fileName);
+    record.displayName = RecordingName::displayName(path);
+    record.sortKey = RecordingName::sortKey(path, record.displayName);
     return record;
 }
 

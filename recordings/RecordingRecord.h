@@ -28,19 +28,23 @@ struct RecordingRecord {
     // The cameras the row plays: one per channel file, or for a one-file recording its video
     // tracks, known once its length has been read; 0 until then.
     int cameraCount = 0;
-    // What the row shows (RecordingName::recordingName of fileName).
+    // What the row shows (RecordingName::displayName): the recording's name, or another
+    // camera's recording's start and type in the same layout.
     QString displayName;
+    // What orders the rows (RecordingName::sortKey): the file name for the camera's own.
+    QString sortKey;
 
     // A record for the file at path alone, at the given row, with its size read now.
     static RecordingRecord fromPath(const QString& path, int row);
 
-    // Whether the row is a recording of MP4 channel files (counted by its files), rather
-    // than a recording in one file (counted by its video tracks).
+    // Whether the row is a recording of channel files (counted by its files), rather than
+    // a recording in one file (counted by its video tracks).
     bool hasChannelFiles() const;
 
-    // The list's order: plain ascending comparison of the file names, which sorts one
-    // folder's recordings by start time, then type and channel.
+    // The list's order: plain ascending comparison of the camera's own file names, which
+    // sorts one folder's recordings by start time, then type and channel; other cameras'
+    // recordings fall in by their start.
     friend bool operator<(const RecordingRecord& a, const RecordingRecord& b) {
-        return a.fileName < b.fileName;
+        return a.sortKey < b.sortKey;
     }
 };

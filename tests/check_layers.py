@@ -5,8 +5,8 @@
 
 Configures the source tree once more into SCRATCH_DIR with --graphviz and reads the graph:
 the libraries must form layers with no cycle, and the lower layers (the process-wide values
-and status log, the UI descriptions, the platform code, the stream library) must not reach
-any library above them. Exits 1 and names the offending path otherwise.
+and status log, the UI descriptions, the platform code, the stream library, the recording
+name rules) must not reach any library above them. Exits 1 and names the offending path otherwise.
 """
 import os
 import re
@@ -15,7 +15,7 @@ import subprocess
 import sys
 
 PREFIX = "tavoric_"
-LOWER = {"tavoric_core", "tavoric_ui", "tavoric_platform", "tavoric_kdxstream"}
+LOWER = {"tavoric_core", "tavoric_ui", "tavoric_platform", "tavoric_kdxstream", "tavoric_names"}
 
 
 def read_graph(dot_path):

@@ -1,14 +1,14 @@
 #!/usr/bin/env bash
 # Sets up, builds and runs the benchmarks (all of them, or those named: duration, telemetry,
-# filelist, chart, playback, export), one after the other, under a virtual X server when there
-# is no display. Each makes the recordings it needs on first use into build/bench-media and prints
-# its figures beside the baseline it measured in the same run.
+# foreign, filelist, chart, playback, export), one after the other, under a virtual X server
+# when there is no display. Each makes the recordings it needs on first use into
+# build/bench-media and prints its figures beside the baseline it measured in the same run.
 set -euo pipefail
 source "$(dirname "${BASH_SOURCE[0]}")/setup.sh"
 tavoric_web_environment
 
 names=("$@")
-((${#names[@]})) || names=(duration telemetry filelist chart playback export)
+((${#names[@]})) || names=(duration telemetry foreign filelist chart playback export)
 run() {
     if [ -n "${DISPLAY:-}" ]; then
         "$@"

@@ -9,6 +9,9 @@
     make_recordings.py sync DIR           three 1080p channels whose frames carry their number
     make_recordings.py export DIR         a one-minute recording of three camera files at a
                                           camera's sizes and bit rates, for the export benchmark
+    make_recordings.py foreign DIR        other cameras' telemetry layouts and names
+                                          (tools/foreign_sets.py)
+    make_recordings.py foreign-bench DIR  a three-minute recording per layout of other cameras
 
 Telemetry is written as a timed-text track in the syntax of docs/telemetry-format.md. A
 folder that already holds the output of the same version of this script is left alone.
@@ -24,6 +27,8 @@ import subprocess
 import sys
 import tempfile
 from datetime import datetime, timezone
+
+import foreign_sets
 
 PERIOD_MS = 100  # one telemetry reading every 100 ms
 FFMPEG = os.environ.get("FFMPEG", "ffmpeg")
@@ -588,14 +593,19 @@ def make_export(folder, scratch):
 # --- entry -------------------------------------------------------------------------------
 
 def script_version():
-    with open(os.path.abspath(__file__), "rb") as source:
-        return hashlib.sha1(source.read()).hexdigest()
+    digest = hashlib.sha1()
+    here = os.path.dirname(os.path.abspath(__file__))
+    for name in (os.path.basename(__file__), "foreign_sets.py", "mp4_boxes.py",
+                 "telemetry_layouts.py"):
+        with open(os.path.join(here, name), "rb") as source:
+            digest.update(source.read())
+    return digest.hexdigest()
 
 
 def main():
     parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
-    parser.add_argument("set", choices=["demo", "test", "bench", "playback", "sync",
-                                           "export"])
+    parser.add_argument("set", choices=["demo", "test", "bench", "playback", "sync", "export",
+                                        "foreign", "foreign-bench"])
     parser.add_argument("folder")
     parser.add_argument("-n", "--copies", type=int, default=2000,
                         help="bench: recordings for the length benchmark")
@@ -628,6 +638,10 @@ def main():
             make_sync(folder, scratch)
         elif options.set == "export":
             make_export(folder, scratch)
+        elif options.set == "foreign":
+            foreign_sets.make_foreign(sys.modules[__name__], folder, scratch)
+        elif options.set == "foreign-bench":
+            foreign_sets.make_foreign_bench(sys.modules[__name__], folder, scratch)
         else:
             make_bench(folder, scratch, options.copies)
     with open(stamp, "w") as out:

@@ -15,7 +15,7 @@ TAVORIC_PACKAGES=(
     libssl-dev dosfstools mtools
     qtwebengine5-dev libjs-leaflet chromium
     xvfb xauth x11-apps imagemagick xdotool poppler-utils
-    libbenchmark-dev g++-mingw-w64-x86-64
+    libbenchmark-dev g++-mingw-w64-x86-64 libimage-exiftool-perl
     fonts-noto-core fonts-noto-cjk
 )
 
