@@ -28,7 +28,7 @@ void ServiceSession::startVersionCheck() {
         return;
     // The bare version: that is what the service looks for, not "checkVersion+" and the
     // version. Nobody waits for the answer, so it may take its time.
-    m_request.send(AppGlobals::version, 0);
+    m_request.send(AppGlobals::version, false);
 }
 
 void ServiceSession::onRecvMessage(const QString& message) {
@@ -40,13 +40,13 @@ void ServiceSession::onRecvMessage(const QString& message) {
                            tr("find Update Version") + '\n' +
                                tr("Would you like to download now?"))) {
             m_downloadAsked = true;
-            m_request.send(QStringLiteral("Download"), 0);
+            m_request.send(QStringLiteral("Download"), false);
         }
         return;
     }
     if (message == QLatin1String("wait")) {
         // The download goes on; the service is told that the program still waits for it.
-        m_request.send(QStringLiteral("DownloadWaiting"), 0);
+        m_request.send(QStringLiteral("DownloadWaiting"), false);
         return;
     }
     if (message == QLatin1String("fail")) {
@@ -69,8 +69,8 @@ void ServiceSession::onRequestFailed(ServiceRequest::Failure failure) {
 }
 
 void ServiceSession::closeForUpdate() {
-    TavPrompt::inform(m_window, tr("The new version has been downloaded. The program closes "
-                                   "now so that it can be installed."));
+    TavPrompt::inform(dialogParent(), tr("The new version has been downloaded. The program closes "
+                                         "now so that it can be installed."));
     logInfo("Update is Exist. Program will be close");
     ServiceRequest::tell(QStringLiteral("closeToDoNot"));
     emit onSendQuitForUpdate();

@@ -42,7 +42,8 @@ private:
 
     QWidget* m_window;
     LocalSocket* m_link;
-    ServiceRequest m_request;
+    // A child, so that tests find it.
+    ServiceRequest m_request{this};
     // The user asked for a download: its failure is told.
     bool m_downloadAsked = false;
 };

@@ -30,5 +30,6 @@ private:
     QLabel* m_title;
     SettingOpt* m_autoReport;
     SettingOptAction* m_send;
-    ServiceRequest m_request;
+    // A child, so that tests find it.
+    ServiceRequest m_request{this};
 };

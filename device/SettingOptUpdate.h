@@ -35,5 +35,6 @@ private:
     SettingOpt* m_version;
     SettingOpt* m_updateCheck;
     SettingOptAction* m_updateNow;
-    ServiceRequest m_request;
+    // A child, so that tests find it.
+    ServiceRequest m_request{this};
 };

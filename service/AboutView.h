@@ -33,6 +33,7 @@ private:
     QLabel* m_state;
     QPushButton* m_check;
     QPushButton* m_download;
-    ServiceRequest m_request;
+    // A child, so that tests find it.
+    ServiceRequest m_request{this};
     QString m_offered;
 };

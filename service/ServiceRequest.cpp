@@ -6,11 +6,12 @@
 #include <QCoreApplication>
 
 ServiceRequest::ServiceRequest(QObject* parent) : QObject(parent) {
+    qRegisterMetaType<ServiceRequest::Failure>("ServiceRequest::Failure");
     m_timer.setSingleShot(true);
     connect(&m_timer, &QTimer::timeout, this, [this] { fail(NoAnswer); });
 }
 
-bool ServiceRequest::send(const QString& request, int answerMs) {
+bool ServiceRequest::send(const QString& request, bool limited) {
     cancel();
     LocalSocket* link = LocalSocket::link;
     if (link == nullptr || !LocalSocket::serviceConnected) {
@@ -32,8 +33,8 @@ bool ServiceRequest::send(const QString& request, int answerMs) {
         });
     m_lostConnection =
         connect(link, &LocalSocket::onSendConnectionLost, this, [this] { fail(LinkLost); });
-    if (answerMs > 0)
-        m_timer.start(answerMs);
+    if (limited)
+        m_timer.start(m_answerMs);
     link->sendMessage(request);
     return true;
 }

@@ -26,14 +26,16 @@ public:
     };
     Q_ENUM(Failure)
 
-    // How long a question waits for its answer by default: as long as a synchronous wait.
+    // How long a question waits for its answer: as long as a synchronous wait does.
     static constexpr int kAnswerMs = 10000;
 
     explicit ServiceRequest(QObject* parent = nullptr);
 
-    // Sends `request` and waits up to `answerMs` for the answer; 0 waits as long as it takes
-    // (a download). False when the request could not go out; onSendFailed() follows.
-    bool send(const QString& request, int answerMs = kAnswerMs);
+    // Sends `request` and waits for the answer, up to the answer time unless `limited` is
+    // false (a download takes as long as it takes). False when the request could not go
+    // out; onSendFailed() follows.
+    bool send(const QString& request, bool limited = true);
+    void setAnswerMs(int ms) { m_answerMs = ms; }
     // Stops listening without an answer.
     void cancel();
     bool isWaiting() const { return m_connection; }
@@ -56,4 +58,5 @@ private:
     QMetaObject::Connection m_connection;
     QMetaObject::Connection m_lostConnection;
     QTimer m_timer;
+    int m_answerMs = kAnswerMs;
 };

@@ -28,7 +28,7 @@ UpdateView::UpdateView(const QString& offered, QWidget* parent)
     m_state->setWordWrap(true);
     view->addChild(m_progress, "progressBar", TavWidget::Style::Field);
     m_progress->setTextVisible(false);
-    m_progress->setRange(0, 1);
+    m_progress->hide();
     view->addChild(m_download, "bDownload", TavWidget::Style::Button);
     auto* close = new QPushButton(view);
     view->addChild(close, "bCancel", TavWidget::Style::Button);
@@ -52,13 +52,14 @@ void UpdateView::setDownloading(bool downloading) {
     m_downloading = downloading;
     m_download->setEnabled(!downloading);
     // A busy bar: the service does not say how far it is.
-    m_progress->setRange(0, downloading ? 0 : 1);
+    m_progress->setRange(0, 0);
+    m_progress->setVisible(downloading && form()->isEnabledChild("progressBar"));
 }
 
 void UpdateView::onClickDownload() {
     logDebug("UpdateView::onClickDownload");
     // A download takes as long as it takes; the user may close the dialog meanwhile.
-    if (!m_request.send(QStringLiteral("Download"), 0))
+    if (!m_request.send(QStringLiteral("Download"), false))
         return;
     setDownloading(true);
     m_state->setText(tr("Downloading the new version..."));
@@ -68,7 +69,7 @@ void UpdateView::onRecvMessage(const QString& message) {
     logDebug("[UpdateView] RecvMessage: %s", message.toLocal8Bit().constData());
     if (message == QLatin1String("wait")) {
         m_state->setText(tr("The service is still downloading. Please wait..."));
-        m_request.send(QStringLiteral("DownloadWaiting"), 0);
+        m_request.send(QStringLiteral("DownloadWaiting"), false);
         return;
     }
     setDownloading(false);

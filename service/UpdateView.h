@@ -36,6 +36,7 @@ private:
     QCheckBox* m_updateCheck;
     QProgressBar* m_progress;
     QPushButton* m_download;
-    ServiceRequest m_request;
+    // A child, so that tests find it.
+    ServiceRequest m_request{this};
     bool m_downloading = false;
 };

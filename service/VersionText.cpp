@@ -8,7 +8,8 @@
 
 bool VersionText::isVersion(const QString& text) {
     // Digits and dots only: toDouble() alone would take "inf", "1e9" or blanks around.
-    static const QRegularExpression pattern(QStringLiteral("^[0-9]{1,9}(\\.[0-9]{1,9})*$"));
+    static const QRegularExpression pattern(
+        QRegularExpression::anchoredPattern(QStringLiteral("[0-9]{1,9}(\\.[0-9]{1,9})*")));
     return text.size() <= kMaxLength && pattern.match(text).hasMatch();
 }
 

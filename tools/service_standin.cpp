@@ -13,6 +13,7 @@
 //   @garbage      bytes that are no text: invalid UTF-8, NUL, printf directives
 //   @long=N       N bytes of text
 //   @sleep=MS     a pause before the items that follow
+//   @deaf         nothing more is read from this program (its writes pile up)
 // Items not separated by @sleep go out in one write, so the program reads them as one
 // message ("NoUpdate|FindUpdate" arrives as "NoUpdateFindUpdate").
 //
@@ -23,7 +24,8 @@
 // and --latest 1.0.7 makes it offer an update (@version=FindUpdate, Version=1.0.7).
 //
 // The transcript has one line per event: "+" a program connected, "< text" it sent,
-// "> text" the stand-in answered, "x" the stand-in closed, "-" the program disconnected.
+// "> text" the stand-in answered, "x" the stand-in closed, "deaf" it stopped reading, "-" the
+// program disconnected.
 // The stand-in prints "listening" on its standard output once the program can connect.
 #include <QCoreApplication>
 #include <QFile>
@@ -132,6 +134,12 @@ private:
             }
             if (item == QLatin1String("@silent"))
                 continue;
+            if (item == QLatin1String("@deaf")) {
+                disconnect(client, &QLocalSocket::readyRead, this, nullptr);
+                client->setReadBufferSize(1);
+                note(QStringLiteral("deaf"));
+                continue;
+            }
             if (item == QLatin1String("@close")) {
                 flush(client, bytes, shown);
                 note(QStringLiteral("x"));
