@@ -41,7 +41,7 @@ SettingOptUpdate::SettingOptUpdate(QWidget* parent) : QWidget(parent) {
         AppGlobals::storeAgreement(value != 0, AppGlobals::autoCrashReports);
         ServiceRequest::tell(QStringLiteral("updateAgreement"));
     });
-    m_updateNow = new SettingOptAction(QT_TRANSLATE_NOOP("SettingOpt", "Update"),
+    m_updateNow = new SettingOptAction(QT_TRANSLATE_NOOP("SettingOpt", "Newer Version"),
                                        QT_TRANSLATE_NOOP("SettingOpt", "Update Now"), look,
                                        "optAction", this);
     connect(m_updateNow, &SettingOptAction::clicked, this, &SettingOptUpdate::onClickUpdateNow);

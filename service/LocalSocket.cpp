@@ -21,8 +21,13 @@ QByteArray logged(const QString& text) {
 LocalSocket::LocalSocket(QObject* parent) : QObject(parent) {}
 
 LocalSocket::~LocalSocket() {
-    if (link == this)
+    // The sockets go with this object; what they report on the way out is no news.
+    for (QLocalSocket* socket : findChildren<QLocalSocket*>())
+        socket->disconnect(this);
+    if (link == this) {
         link = nullptr;
+        serviceConnected = false;
+    }
 }
 
 QString LocalSocket::errorText(QLocalSocket::LocalSocketError error) {
