@@ -1,6 +1,8 @@
 #include "SettingOptAction.h"
 
+#include "LocalSocket.h"
 #include "SettingOpt.h"
+#include "TavPrompt.h"
 #include "UiApplier.h"
 #include "UiDescription.h"
 
@@ -49,4 +51,25 @@ void SettingOptAction::setHint(const QString& text) {
 void SettingOptAction::retranslate() {
     m_name->setText(SettingOpt::translated(QLatin1String(m_nameText)));
     m_button->setText(SettingOpt::translated(QLatin1String(m_buttonText)));
+}
+
+void SettingOptAction::showLinkState() {
+    setHint(LocalSocket::serviceConnected
+                ? QString()
+                : ServiceRequest::failureText(ServiceRequest::NotConnected));
+}
+
+void SettingOptAction::showWaiting() {
+    m_button->setEnabled(false);
+    setHint(ServiceRequest::waitingText());
+}
+
+void SettingOptAction::showAnswer(const QString& text) {
+    m_button->setEnabled(true);
+    setHint(text);
+}
+
+void SettingOptAction::showFailure(ServiceRequest::Failure failure) {
+    showAnswer(ServiceRequest::failureText(failure));
+    TavPrompt::inform(this, ServiceRequest::failureText(failure));
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ServiceRequest.h"
+
 #include <QString>
 #include <QWidget>
 
@@ -21,6 +23,14 @@ public:
     QLabel* hint() const { return m_hint; }
     void setHint(const QString& text);
     void retranslate();
+
+    // For a row that asks the companion service: the line says when the service is not
+    // working; the button waits while a question is out; a failure is told on the row and
+    // in a message.
+    void showLinkState();
+    void showWaiting();
+    void showAnswer(const QString& text);
+    void showFailure(ServiceRequest::Failure failure);
 
 signals:
     void clicked();

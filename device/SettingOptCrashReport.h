@@ -1,17 +1,15 @@
 #pragma once
 
 #include "ServiceRequest.h"
+#include "SettingOptPage.h"
 
-#include <QWidget>
-
-class QLabel;
 class SettingOpt;
 class SettingOptAction;
 
 // The settings dialog's crash-report page. The status log outlives only an abnormal end;
 // the service sends it, on its own when the user allowed automatic reports, or now with
 // "Send Now" ("Report", answered "Send_Complete").
-class SettingOptCrashReport : public QWidget {
+class SettingOptCrashReport : public SettingOptPage {
     Q_OBJECT
 public:
     explicit SettingOptCrashReport(QWidget* parent = nullptr);
@@ -19,15 +17,13 @@ public:
     SettingOpt* autoReportRow() const { return m_autoReport; }
     SettingOptAction* sendRow() const { return m_send; }
 
+    void retranslate() override;
+
 public slots:
     void onClickSend();
     void onRecvMessage(const QString& message);
-    void retranslate();
 
 private:
-    void onRequestFailed(ServiceRequest::Failure failure);
-
-    QLabel* m_title;
     SettingOpt* m_autoReport;
     SettingOptAction* m_send;
     // A child, so that tests find it.

@@ -8,9 +8,7 @@
 #include "UiDescription.h"
 
 #include <QDir>
-#include <QLabel>
 #include <QSettings>
-#include <QVBoxLayout>
 
 namespace {
 
@@ -18,29 +16,10 @@ const char* const kLanguage = QT_TRANSLATE_NOOP("SettingOpt", "Language");
 const char* const kSpeedUnit = QT_TRANSLATE_NOOP("SettingOpt", "Speed Unit");
 const char* const kKeep = QT_TRANSLATE_NOOP("SettingOpt", "Keep Settings");
 
-SettingRecord record(const char* name, int type, const QVector<SettingRecord::Choice>& choices,
-                     const char* hint = "") {
-    SettingRecord made;
-    made.name = QLatin1String(name);
-    made.type = type;
-    made.enable = true;
-    made.text = QLatin1String(hint);
-    made.choices = choices;
-    return made;
-}
-
 } // namespace
 
-SettingOptProgram::SettingOptProgram(QWidget* parent) : QWidget(parent) {
-    setObjectName("page_Program Setting");
-    UiDescription look;
-    look.open("SettingView");
-    auto* rows = new QVBoxLayout(this);
-    rows->setContentsMargins(0, 0, 8, 0);
-    rows->setSpacing(0);
-    m_title = SettingOpt::makePageTitle(QString(), look, this);
-    rows->addWidget(m_title);
-
+SettingOptProgram::SettingOptProgram(QWidget* parent)
+    : SettingOptPage("page_Program Setting", "programTitle", parent) {
     // Each language under its own name, whatever the interface shows now.
     const SettingRecord records[] = {
         record(kLanguage, SettingOpt::ComboKind,
@@ -54,7 +33,7 @@ SettingOptProgram::SettingOptProgram(QWidget* parent) : QWidget(parent) {
                                                "when the program closes.")),
     };
     for (const SettingRecord& made : records) {
-        auto* option = new SettingOpt(made, look, this);
+        auto* option = new SettingOpt(made, look(), this);
         m_options.append(option);
         connect(option, &SettingOpt::onSendValueChanged, this, &SettingOptProgram::onOptionChanged);
     }
@@ -64,24 +43,18 @@ SettingOptProgram::SettingOptProgram(QWidget* parent) : QWidget(parent) {
 
     m_snapshot =
         new SettingOptAction(QT_TRANSLATE_NOOP("SettingOpt", "Snapshot Folder"),
-                             QT_TRANSLATE_NOOP("SettingOpt", "Change"), look, "optAction", this);
+                             QT_TRANSLATE_NOOP("SettingOpt", "Change"), look(), "optAction", this);
     m_video =
         new SettingOptAction(QT_TRANSLATE_NOOP("SettingOpt", "Video Folder"),
-                             QT_TRANSLATE_NOOP("SettingOpt", "Change"), look, "optAction", this);
+                             QT_TRANSLATE_NOOP("SettingOpt", "Change"), look(), "optAction", this);
     connect(m_snapshot, &SettingOptAction::clicked, this, [this] { chooseFolder(false); });
     connect(m_video, &SettingOptAction::clicked, this, [this] { chooseFolder(true); });
     m_reset = new SettingOptAction(QT_TRANSLATE_NOOP("SettingOpt", "Program Reset"),
-                                   QT_TRANSLATE_NOOP("SettingOpt", "Program Reset"), look,
+                                   QT_TRANSLATE_NOOP("SettingOpt", "Program Reset"), look(),
                                    "bProgramReset", this);
     connect(m_reset, &SettingOptAction::clicked, this, &SettingOptProgram::onSendProgramReset);
 
-    rows->addWidget(m_options[0]);
-    rows->addWidget(m_options[1]);
-    rows->addWidget(m_snapshot);
-    rows->addWidget(m_video);
-    rows->addWidget(m_options[2]);
-    rows->addWidget(m_reset);
-    rows->addStretch(1);
+    addRows({m_options[0], m_options[1], m_snapshot, m_video, m_options[2], m_reset});
     retranslate();
 }
 
@@ -98,14 +71,12 @@ SettingOpt* SettingOptProgram::option(const QString& name) const {
 }
 
 void SettingOptProgram::retranslate() {
-    UiDescription look;
-    look.open("SettingView");
-    m_title->setText(look.translatedText("programTitle"));
+    SettingOptPage::retranslate();
     for (SettingOpt* option : qAsConst(m_options))
         option->retranslate();
     for (SettingOptAction* row : {m_snapshot, m_video, m_reset})
         row->retranslate();
-    m_reset->setHint(look.translatedText("programNote"));
+    m_reset->setHint(look().translatedText("programNote"));
     showFolders();
 }
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include <QVector>
-#include <QWidget>
+#include "SettingOptPage.h"
 
-class QLabel;
+#include <QVector>
+
 class SettingOpt;
 class SettingOptAction;
 
@@ -11,7 +11,7 @@ class SettingOptAction;
 // unit of speeds, the folders snapshots and video are saved to, whether the program keeps
 // its window, sound and folders when it closes, and the program reset. Each change takes
 // effect at once.
-class SettingOptProgram : public QWidget {
+class SettingOptProgram : public SettingOptPage {
     Q_OBJECT
 public:
     // Settings of this page that the main window does not save at its end.
@@ -29,14 +29,13 @@ public:
     SettingOptAction* videoRow() const { return m_video; }
     SettingOptAction* resetRow() const { return m_reset; }
 
+    void retranslate() override;
+
 signals:
     // The language was switched; the views show their texts anew.
     void onSendChangeLanguage();
     // The user asks for the program reset (the dialog asks and does it).
     void onSendProgramReset();
-
-public slots:
-    void retranslate();
 
 private slots:
     void onOptionChanged(const QString& name, int value);
@@ -45,7 +44,6 @@ private:
     void chooseFolder(bool video);
     void showFolders();
 
-    QLabel* m_title;
     QVector<SettingOpt*> m_options;
     SettingOptAction* m_snapshot;
     SettingOptAction* m_video;

@@ -24,25 +24,11 @@ import sys
 import tempfile
 import time
 
+from checklist import check, failures, xdotool
+
 BUILD = sys.argv[1]
 PROGRAM = os.path.join(BUILD, "tavoric")
 STANDIN = os.path.join(BUILD, "service_standin")
-failures = []
-
-
-def check(condition, message):
-    print(("ok    " if condition else "FAIL  ") + message, flush=True)
-    if not condition:
-        failures.append(message)
-
-
-def xdotool(*args, timeout=30):
-    try:
-        result = subprocess.run(["xdotool"] + list(args), capture_output=True, text=True,
-                                timeout=timeout)
-    except subprocess.TimeoutExpired:
-        return []
-    return result.stdout.split()
 
 
 def wait_until(condition, timeout=30):

@@ -927,10 +927,6 @@
   <context>
     <name>SettingOptCrashReport</name>
     <message>
-      <source>Sending...</source>
-      <translation>Sending...</translation>
-    </message>
-    <message>
       <source>The transfer is complete.</source>
       <translation>The transfer is complete.</translation>
     </message>

@@ -934,10 +934,6 @@
   <context>
     <name>SettingOptCrashReport</name>
     <message>
-      <source>Sending...</source>
-      <translation>שולח...</translation>
-    </message>
-    <message>
       <source>The transfer is complete.</source>
       <translation>ההעברה הושלמה.</translation>
     </message>

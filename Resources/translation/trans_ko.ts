@@ -927,10 +927,6 @@
   <context>
     <name>SettingOptCrashReport</name>
     <message>
-      <source>Sending...</source>
-      <translation>보내는 중...</translation>
-    </message>
-    <message>
       <source>The transfer is complete.</source>
       <translation>전송이 완료되었습니다.</translation>
     </message>
