@@ -27,8 +27,9 @@ void ServiceSession::startVersionCheck() {
     if (!AppGlobals::updateChecksAllowed || !LocalSocket::serviceConnected)
         return;
     // The bare version: that is what the service looks for, not "checkVersion+" and the
-    // version. Nobody waits for the answer, so it may take its time.
-    m_request.send(AppGlobals::version, false);
+    // version. An answer that does not come in time is given up, so that it cannot take
+    // the answer to a later question of another view for its own.
+    m_request.send(AppGlobals::version);
 }
 
 void ServiceSession::onRecvMessage(const QString& message) {
