@@ -10,7 +10,6 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QScreen>
-#include <QSettings>
 
 AgreementView::AgreementView(QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::FramelessWindowHint), m_central(new QWidget(this)),
@@ -62,17 +61,9 @@ AgreementView::AgreementView(QWidget* parent)
     onChangeTextByLanguage();
 }
 
-QString AgreementView::agreementValue(bool updateChecks, bool crashReports) {
-    return QString::number(1 | (updateChecks ? 2 : 0) | (crashReports ? 4 : 0));
-}
-
 void AgreementView::onClickAgree() {
     logDebug("AgreementView::onClickAgree");
-    AppGlobals::settings->setValue(
-        "agreement", agreementValue(m_updateChecks->isChecked(), m_crashReports->isChecked()));
-    AppGlobals::settings->sync();
-    AppGlobals::updateChecksAllowed = m_updateChecks->isChecked();
-    AppGlobals::autoCrashReports = m_crashReports->isChecked();
+    AppGlobals::storeAgreement(m_updateChecks->isChecked(), m_crashReports->isChecked());
     done(1);
 }
 

@@ -15,9 +15,6 @@ class AgreementView : public QDialog {
 public:
     explicit AgreementView(QWidget* parent = nullptr);
 
-    // The stored value for the given choices.
-    static QString agreementValue(bool updateChecks, bool crashReports);
-
 public slots:
     void onClickAgree();
     void onChangeTextByLanguage();

@@ -4,6 +4,7 @@
 #include "Frameless.h"
 #include "MainWindow.h"
 #include "ProcessPriority.h"
+#include "ServiceSession.h"
 #include "StatusLog.h"
 #include "TerminationSignal.h"
 
@@ -109,6 +110,7 @@ int AppStartup::run(int& argc, char** argv) {
     window->show();
     splash->finish(window);
     delete splash;
+    window->service()->startVersionCheck();
     // Paths on the command line open as a drop would, once the window is up.
     const QStringList paths = QCoreApplication::arguments().mid(1);
     if (!paths.isEmpty())

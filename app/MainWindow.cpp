@@ -15,6 +15,8 @@
 #include "ReportScene.h"
 #include "RightSideView.h"
 #include "SaveAsView.h"
+#include "ServiceSession.h"
+#include "SettingOptProgram.h"
 #include "StatusLog.h"
 #include "SubPlayerWindow.h"
 #include "SubSceneBackWidget.h"
@@ -49,6 +51,7 @@
 MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent) {
     logInfo("[MainWindow]: Enter MainWindow class.");
     hide();
+    m_service = new ServiceSession(this);
 
     AppGlobals::volume = AppGlobals::settings->value("volume", AppGlobals::volume).toInt();
     AppGlobals::mute = AppGlobals::settings->value("mute", AppGlobals::mute).toBool();
@@ -81,7 +84,7 @@ MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent) {
 
 MainWindow::~MainWindow() {
     logInfo("[MainWindow]: Close Application.");
-    if (m_saveSettings)
+    if (m_saveSettings && SettingOptProgram::keepsSettings())
         saveSettings();
     // The thumbnail worker stops before its folder goes.
     emit onSendStopItemThread();
@@ -94,6 +97,7 @@ MainWindow::~MainWindow() {
     m_player = nullptr;
     delete m_central;
     m_central = nullptr;
+    m_service->close();
 
     logInfo("[MainWindow]: Delete log File...");
     const QString log = AppGlobals::statusLogPath();
@@ -245,10 +249,15 @@ void MainWindow::connectViews() {
                 &MainWindow::openSDCardDlg);
         connect(m_shortcuts, &TavShortcutTable::onSendSignalSetting, this,
                 &MainWindow::openSettingDlg);
+        connect(m_shortcuts, &TavShortcutTable::onSendSignalAbout, this, &MainWindow::openAboutDlg);
     }
     connect(m_card, &CardSession::onSendSDCardFile, this, &MainWindow::onSendFileList);
     connect(m_card, &CardSession::onSendCardContentsGone, this, &MainWindow::onCardContentsGone);
     connect(m_card, &CardSession::onSendNotSaveSetting, this, &MainWindow::onSetNotSaveSetting);
+    connect(m_card, &CardSession::onSendChangeLanguage, this, &MainWindow::onSendChangeLanguage);
+    connect(m_card, &CardSession::onSendShowUpdate, m_service, &ServiceSession::openUpdateDialog);
+    connect(m_service, &ServiceSession::onSendQuitForUpdate, qApp, &QCoreApplication::quit,
+            Qt::QueuedConnection);
     connect(m_player, &PlayerInterface::onSendShowWindow, this, &MainWindow::onShowPlayWindow);
     if (enabled("fileList")) {
         connect(m_fileList, &TavFileListItem::doubleClickedItem, m_player,
@@ -688,6 +697,10 @@ void MainWindow::openSDCardDlg() {
 void MainWindow::openSettingDlg() {
     logDebug("MainWindow::openSettingDlg");
     m_card->openSettingDialog(this);
+}
+
+void MainWindow::openAboutDlg() {
+    m_service->openAboutDialog();
 }
 
 void MainWindow::onCardContentsGone(const QString& root) {

@@ -19,6 +19,7 @@ class TavTypeList;
 class QPushButton;
 class QStackedWidget;
 class RightSideView;
+class ServiceSession;
 class TavShortcutTable;
 class TavWidget;
 class TopBar;
@@ -44,6 +45,8 @@ public:
     static bool acceptAgreementValue(const QString& value);
 
     PlayerInterface* player() const { return m_player; }
+    // The companion service: the version check after the window shows starts there.
+    ServiceSession* service() const { return m_service; }
 
     // Files and folders given on the command line: listed as a drop would list them, and
     // the first recording plays.
@@ -82,6 +85,7 @@ public slots:
     void openLangaugeDlg();
     void openSDCardDlg();
     void openSettingDlg();
+    void openAboutDlg();
     // The card at root went away or is being formatted: what plays from it stops, and the
     // list lets go of its recordings.
     void onCardContentsGone(const QString& root);
@@ -138,6 +142,7 @@ private:
     PlayControlView* m_control = nullptr;
     PlayerInterface* m_player = nullptr;
     CardSession* m_card = nullptr;
+    ServiceSession* m_service = nullptr;
 
     bool m_agreementAccepted = false;
     bool m_saveSettings = true;

@@ -29,6 +29,8 @@ void CardSession::openSettingDialog(QWidget* parent) {
     connect(&dialog, &SettingView::onSendNotSaveSetting, this, &CardSession::onSendNotSaveSetting);
     connect(&dialog, &SettingView::onSendFormatStarting, this, &CardSession::onFormatStarting);
     connect(&dialog, &SettingView::onSendFormatFinished, this, &CardSession::onFormatFinished);
+    connect(&dialog, &SettingView::onSendChangeLanguage, this, &CardSession::onSendChangeLanguage);
+    connect(&dialog, &SettingView::onSendShowUpdate, this, &CardSession::onSendShowUpdate);
     dialog.exec();
 }
 

@@ -9,7 +9,8 @@ class QWidget;
 
 // The main window's memory card: opens the card and settings dialogs, and watches the
 // opened card while its recordings are listed. Whatever the dialogs and the watch find out
-// leaves through this object's signals, which the main window routes to the other views.
+// leaves through this object's signals, which the main window routes to the other views;
+// so does what the settings dialog's pages of the program itself report.
 class CardSession : public QObject {
     Q_OBJECT
 public:
@@ -27,6 +28,10 @@ signals:
     // The card at root went away or is about to be formatted: its recordings are gone.
     void onSendCardContentsGone(const QString& root);
     void onSendNotSaveSetting();
+    // From the settings dialog's own pages: the language was switched; a newer version is
+    // out and the user wants it.
+    void onSendChangeLanguage();
+    void onSendShowUpdate(const QString& version);
 
 private slots:
     void onCardFiles(const QStringList& files);

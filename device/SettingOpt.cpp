@@ -58,6 +58,28 @@ QString SettingOpt::translated(const QString& text) {
     return QCoreApplication::translate("SettingOpt", text.toUtf8().constData());
 }
 
+QLabel* SettingOpt::makePageTitle(const QString& text, const UiDescription& look, QWidget* parent) {
+    auto* title = new QLabel(text, parent);
+    title->setStyleSheet(UiApplier::labelStyleSheet(look.item("pageTitle")));
+    title->setFont(look.item("pageTitle").font);
+    return title;
+}
+
+void SettingOpt::retranslate() {
+    m_name->setText(translated(m_record.name));
+    if (m_hint != nullptr)
+        m_hint->setText(translated(m_record.text));
+    for (int i = 0; i < m_record.choices.size(); ++i) {
+        const QString label = translated(m_record.choices[i].name);
+        if (m_combo != nullptr && i < m_combo->count())
+            m_combo->setItemText(i, label);
+        if (m_choices != nullptr) {
+            if (QAbstractButton* button = m_choices->button(m_record.choices[i].value))
+                button->setText(label);
+        }
+    }
+}
+
 void SettingOpt::buildControl(const UiDescription& look) {
     switch (m_record.type) {
     case ToggleKind:

@@ -32,8 +32,13 @@ public:
     // Whether the user may change the row now (its record allows it and the dialog does).
     void setChangeable(bool changeable);
 
+    // Shows the name, hint and choices again in the interface language.
+    void retranslate();
+
     // A setting's name or choice label in the interface language.
     static QString translated(const QString& text);
+    // A page's title in the dialog's look.
+    static QLabel* makePageTitle(const QString& text, const UiDescription& look, QWidget* parent);
 
 signals:
     void onSendValueChanged(const QString& name, int value);

@@ -3,6 +3,9 @@
 #include "AppGlobals.h"
 #include "ProgramRestart.h"
 #include "SettingOpt.h"
+#include "SettingOptCrashReport.h"
+#include "SettingOptProgram.h"
+#include "SettingOptUpdate.h"
 #include "StatusLog.h"
 #include "TavPrompt.h"
 #include "TavWidget.h"
@@ -61,12 +64,7 @@ SettingView::SettingView(QWidget* parent)
     buildFrame();
     loadCard();
     buildTreePages();
-    m_pages->addWidget(makeProgramPage());
-    m_pages->addWidget(makeNotePage("updateTitle", "updateNote"));
-    auto* program = addNavButton("bProgram", m_pages->widget(m_pages->count() - 2));
-    addNavButton("bUpdate", m_pages->widget(m_pages->count() - 1));
-    if (m_treePages.isEmpty())
-        program->click();
+    buildViewerPages();
     m_form->retranslate();
     onStateLabelChange();
 }
@@ -200,11 +198,10 @@ QWidget* SettingView::makeTreePage(const SettingTree& tree) {
     auto* rows = new QVBoxLayout(content);
     rows->setContentsMargins(0, 0, 8, 0);
     rows->setSpacing(0);
-    auto* title = new QLabel(SettingOpt::translated(tree.name), content);
     UiDescription look;
     look.open("SettingView");
-    title->setStyleSheet(UiApplier::labelStyleSheet(look.item("pageTitle")));
-    title->setFont(look.item("pageTitle").font);
+    QLabel* title = SettingOpt::makePageTitle(SettingOpt::translated(tree.name), look, content);
+    m_treeTitles.insert(title, tree.name);
     rows->addWidget(title);
     QVector<SettingRecord> settings = tree.settings;
     std::stable_sort(settings.begin(), settings.end(),
@@ -233,18 +230,44 @@ QWidget* SettingView::makeNotePage(const char* titleEntry, const char* noteEntry
     return page;
 }
 
-QWidget* SettingView::makeProgramPage() {
-    QWidget* page = makeNotePage("programTitle", "programNote");
-    auto* reset = new QPushButton(page);
+void SettingView::buildViewerPages() {
+    m_program = new SettingOptProgram;
+    m_update = new SettingOptUpdate;
+    m_crashReport = new SettingOptCrashReport;
+    for (QWidget* page : {static_cast<QWidget*>(m_program), static_cast<QWidget*>(m_update),
+                          static_cast<QWidget*>(m_crashReport)})
+        m_pages->addWidget(page);
+    QPushButton* program = addNavButton("bProgram", m_program);
+    addNavButton("bUpdate", m_update);
+    addNavButton("bCrashReport", m_crashReport);
+    if (m_treePages.isEmpty())
+        program->click();
+    connect(m_program, &SettingOptProgram::onSendProgramReset, this,
+            &SettingView::onSetProgramFormat);
+    connect(m_program, &SettingOptProgram::onSendChangeLanguage, this,
+            &SettingView::onChangeLanguage);
+    connect(m_update, &SettingOptUpdate::onSendShowUpdate, this, &SettingView::onSendShowUpdate);
+}
+
+void SettingView::onChangeLanguage() {
+    logDebug("SettingView::onChangeLanguage");
+    m_form->retranslate();
+    setWindowTitle(m_form->findChild<QLabel*>("DlgName")->text());
+    for (SettingOpt* option : qAsConst(m_options))
+        option->retranslate();
+    for (auto it = m_treeTitles.cbegin(); it != m_treeTitles.cend(); ++it)
+        it.key()->setText(SettingOpt::translated(it.value()));
     UiDescription look;
     look.open("SettingView");
-    const UiItem item = look.item("bProgramReset");
-    UiApplier::apply(reset, "bProgramReset", item,
-                     UiApplier::buttonStyleSheet(item, look.imageFolder()));
-    reset->setText(look.translatedText("bProgramReset"));
-    reset->setCursor(Qt::PointingHandCursor);
-    connect(reset, &QPushButton::clicked, this, &SettingView::onSetProgramFormat);
-    return page;
+    for (const char* entry : {"deviceTitle", "noCardNote"}) {
+        if (auto* label = m_pages->findChild<QLabel*>(entry))
+            label->setText(look.translatedText(entry));
+    }
+    m_program->retranslate();
+    m_update->retranslate();
+    m_crashReport->retranslate();
+    onStateLabelChange();
+    emit onSendChangeLanguage();
 }
 
 QString SettingView::cardText(const QString& link) {

@@ -14,6 +14,9 @@ class QLabel;
 class QPushButton;
 class QStackedWidget;
 class SettingOpt;
+class SettingOptCrashReport;
+class SettingOptProgram;
+class SettingOptUpdate;
 class TavWidget;
 
 // The modal settings dialog. Its "Device" pages show the opened card's camera settings, one
@@ -47,6 +50,9 @@ public:
     // The page of a tree, or null when the camera has no such tree.
     QWidget* treePage(const QString& tree) const { return m_treePages.value(tree); }
     QLabel* stateLabel() const { return m_state; }
+    SettingOptProgram* programPage() const { return m_program; }
+    SettingOptUpdate* updatePage() const { return m_update; }
+    SettingOptCrashReport* crashReportPage() const { return m_crashReport; }
     ConfigAccess& config() { return m_config; }
 
     // The card's own texts a "type 3" row names in its "link": "Identity", "Serial" (the
@@ -62,6 +68,10 @@ signals:
     // A format is about to take the card's recordings, and has ended.
     void onSendFormatStarting();
     void onSendFormatFinished();
+    // The program page switched the language.
+    void onSendChangeLanguage();
+    // The update page found a newer version.
+    void onSendShowUpdate(const QString& version);
 
 public slots:
     void onClickApply();
@@ -76,6 +86,8 @@ public slots:
 private slots:
     void onOptionChanged(const QString& name, int value);
     void onFormatFinished();
+    // Shows the dialog's texts in the language just chosen.
+    void onChangeLanguage();
 
 private:
     void buildFrame();
@@ -84,7 +96,7 @@ private:
     void readDescriptions();
     void buildTreePages();
     QWidget* makeTreePage(const SettingTree& tree);
-    QWidget* makeProgramPage();
+    void buildViewerPages();
     QWidget* makeNotePage(const char* titleEntry, const char* noteEntry);
     void showValues();
     void updateChangeable();
@@ -106,6 +118,10 @@ private:
     QVector<QVector<ShownItem>> m_items;
     QHash<QString, SettingOpt*> m_options;
     QHash<QString, QWidget*> m_treePages;
+    QHash<QLabel*, QString> m_treeTitles;
+    SettingOptProgram* m_program = nullptr;
+    SettingOptUpdate* m_update = nullptr;
+    SettingOptCrashReport* m_crashReport = nullptr;
     bool m_formatPending = false;
     bool m_applying = false;
 };

@@ -16,7 +16,6 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QStandardPaths>
 
 SaveAsView::SaveAsView(QWidget* parent)
     : TavDialog("SaveAsView", parent), m_scenePage(new QWidget(form())),
@@ -107,7 +106,7 @@ void SaveAsView::onChangeMode(int mode) {
     if (mode == VideoMode) {
         path = &AppGlobals::videoPath;
         if (path->isEmpty())
-            *path = QStandardPaths::writableLocation(QStandardPaths::MoviesLocation) + "/ZENTA";
+            *path = AppGlobals::defaultVideoFolder();
     } else {
         path = &AppGlobals::snapshotPath;
         if (path->isEmpty())

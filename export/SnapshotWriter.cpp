@@ -1,12 +1,13 @@
 #include "SnapshotWriter.h"
 
+#include "AppGlobals.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QImage>
 #include <QImageWriter>
 #include <QSaveFile>
-#include <QStandardPaths>
 
 QString SnapshotWriter::fileName(const QString& folder, const QString& recordingName, int channel,
                                  double position) {
@@ -18,7 +19,7 @@ QString SnapshotWriter::fileName(const QString& folder, const QString& recording
 }
 
 QString SnapshotWriter::defaultFolder() {
-    return QStandardPaths::writableLocation(QStandardPaths::PicturesLocation) + "/ZENTA";
+    return AppGlobals::defaultSnapshotFolder();
 }
 
 bool SnapshotWriter::save(const QImage& image, const QString& path, QString* error) {

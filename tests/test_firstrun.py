@@ -30,25 +30,10 @@ import sys
 import tempfile
 import time
 
+from checklist import check, failures, xdotool
+
 ROOT, BUILD, PLAYBACK = sys.argv[1], sys.argv[2], sys.argv[3]
 FRONT_CHANNEL_FILE = os.path.join(PLAYBACK, "20240301_090000_INF_1.mp4")
-failures = []
-
-
-def check(condition, message):
-    print(("ok    " if condition else "FAIL  ") + message, flush=True)
-    if not condition:
-        failures.append(message)
-
-
-def xdotool(*args, timeout=30):
-    """xdotool's output as words; none when it did not answer in time."""
-    try:
-        result = subprocess.run(["xdotool"] + list(args), capture_output=True, text=True,
-                                timeout=timeout)
-    except subprocess.TimeoutExpired:
-        return []
-    return result.stdout.split()
 
 
 def parse_ppm(ppm):

@@ -48,6 +48,8 @@ class TestStartup : public QObject {
     void start(QProcess& process) {
         QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
         env.insert("HOME", m_home.path());
+        // Where a companion service would listen: none does in this folder.
+        env.insert("TMPDIR", m_home.path());
         env.remove("XDG_CONFIG_HOME");
         env.remove("XDG_DATA_HOME");
         if (env.value("DISPLAY").isEmpty())
@@ -94,6 +96,10 @@ private slots:
             ":: [i] [Main]: Set Translation file...",
             ":: [i] [Main]: MainWindow start now!",
             ":: [i] [MainWindow]: Enter MainWindow class.",
+            // No companion service runs: the link says so and the start goes on.
+            ":: [i] N: State = ConnectingState",
+            ":: [e] N: Error = ServerNotFoundError",
+            ":: [i] N: State = UnconnectedState",
             ":: [i] User disagree to use privacy information for program",
         };
         QCOMPARE(logMessages(), expected);
@@ -128,6 +134,19 @@ private slots:
         QCOMPARE(storedValue("language").toInt(), 0);
         QCOMPARE(storedValue("version").toString(), QString("1.0.6"));
         QCOMPARE(storedValue("agreement").toString(), QString("1"));
+    }
+
+    void settingsAreNotKeptWhenTheUserSaidSo() {
+        storeSettings({{"agreement", "1"}, {"keepSettings", false}, {"volume", 40}});
+        QProcess process;
+        start(process);
+        waitForWindow(process);
+        ::kill(pid_t(process.processId()), SIGTERM);
+        QVERIFY(process.waitForFinished(20000));
+        QCOMPARE(process.exitCode(), 0);
+        QVERIFY(!storedValue("width").isValid());
+        QCOMPARE(storedValue("volume").toInt(), 40);
+        QVERIFY(!QFile::exists(logFile()));
     }
 
     void killedProcessLeavesTheLogForTheNextRun() {

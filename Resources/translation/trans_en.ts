@@ -388,7 +388,125 @@
     </message>
   </context>
   <context>
+    <name>ServiceRequest</name>
+    <message>
+      <source>Asking the service...</source>
+      <translation>Asking the service...</translation>
+    </message>
+    <message>
+      <source>The service for updates and reports is not working.</source>
+      <translation>The service for updates and reports is not working.</translation>
+    </message>
+    <message>
+      <source>The service for updates and reports does not use the network now.</source>
+      <translation>The service for updates and reports does not use the network now.</translation>
+    </message>
+    <message>
+      <source>The service for updates and reports did not answer.</source>
+      <translation>The service for updates and reports did not answer.</translation>
+    </message>
+    <message>
+      <source>The connection to the service for updates and reports was lost.</source>
+      <translation>The connection to the service for updates and reports was lost.</translation>
+    </message>
+    <message>
+      <source>Check your Network state</source>
+      <translation>Check your Network state</translation>
+    </message>
+    <message>
+      <source>DownLoad Fail</source>
+      <translation>DownLoad Fail</translation>
+    </message>
+  </context>
+  <context>
+    <name>ServiceSession</name>
+    <message>
+      <source>Update Message</source>
+      <translation>Update Message</translation>
+    </message>
+    <message>
+      <source>find Update Version</source>
+      <translation>find Update Version</translation>
+    </message>
+    <message>
+      <source>Would you like to download now?</source>
+      <translation>Would you like to download now?</translation>
+    </message>
+    <message>
+      <source>The new version has been downloaded. The program closes now so that it can be installed.</source>
+      <translation>The new version has been downloaded. The program closes now so that it can be installed.</translation>
+    </message>
+  </context>
+  <context>
     <name>SettingOpt</name>
+    <message>
+      <source>Automatic Crash Reports</source>
+      <translation>Automatic Crash Reports</translation>
+    </message>
+    <message>
+      <source>After the program ended unexpectedly, the service sends its status log without asking.</source>
+      <translation>After the program ended unexpectedly, the service sends its status log without asking.</translation>
+    </message>
+    <message>
+      <source>Send a Crash Report</source>
+      <translation>Send a Crash Report</translation>
+    </message>
+    <message>
+      <source>Send Now</source>
+      <translation>Send Now</translation>
+    </message>
+    <message>
+      <source>Language</source>
+      <translation>Language</translation>
+    </message>
+    <message>
+      <source>Speed Unit</source>
+      <translation>Speed Unit</translation>
+    </message>
+    <message>
+      <source>Keep Settings</source>
+      <translation>Keep Settings</translation>
+    </message>
+    <message>
+      <source>Save the window, language, sound and folders when the program closes.</source>
+      <translation>Save the window, language, sound and folders when the program closes.</translation>
+    </message>
+    <message>
+      <source>Snapshot Folder</source>
+      <translation>Snapshot Folder</translation>
+    </message>
+    <message>
+      <source>Change</source>
+      <translation>Change</translation>
+    </message>
+    <message>
+      <source>Video Folder</source>
+      <translation>Video Folder</translation>
+    </message>
+    <message>
+      <source>Program Reset</source>
+      <translation>Program Reset</translation>
+    </message>
+    <message>
+      <source>Program Version</source>
+      <translation>Program Version</translation>
+    </message>
+    <message>
+      <source>Check for Updates at Start</source>
+      <translation>Check for Updates at Start</translation>
+    </message>
+    <message>
+      <source>Each start asks the service whether a newer version is out.</source>
+      <translation>Each start asks the service whether a newer version is out.</translation>
+    </message>
+    <message>
+      <source>Newer Version</source>
+      <translation>Newer Version</translation>
+    </message>
+    <message>
+      <source>Update Now</source>
+      <translation>Update Now</translation>
+    </message>
     <message>
       <source>Camera</source>
       <translation>Camera</translation>
@@ -750,10 +868,6 @@
       <translation>Daylight Saving Time</translation>
     </message>
     <message>
-      <source>Speed Unit</source>
-      <translation>Speed Unit</translation>
-    </message>
-    <message>
       <source>km/h</source>
       <translation>km/h</translation>
     </message>
@@ -808,6 +922,20 @@
     <message>
       <source>LCD Auto Off</source>
       <translation>LCD Auto Off</translation>
+    </message>
+  </context>
+  <context>
+    <name>SettingOptCrashReport</name>
+    <message>
+      <source>The transfer is complete.</source>
+      <translation>The transfer is complete.</translation>
+    </message>
+  </context>
+  <context>
+    <name>SettingOptProgram</name>
+    <message>
+      <source>Choose a folder</source>
+      <translation>Choose a folder</translation>
     </message>
   </context>
   <context>
@@ -984,6 +1112,67 @@
     <message>
       <source>About</source>
       <translation>About</translation>
+    </message>
+  </context>
+  <context>
+    <name>UpdateView</name>
+    <message>
+      <source>unknown</source>
+      <translation>unknown</translation>
+    </message>
+    <message>
+      <source>Downloading the new version...</source>
+      <translation>Downloading the new version...</translation>
+    </message>
+    <message>
+      <source>The service is still downloading. Please wait...</source>
+      <translation>The service is still downloading. Please wait...</translation>
+    </message>
+    <message>
+      <source>The download is complete.</source>
+      <translation>The download is complete.</translation>
+    </message>
+  </context>
+  <context>
+    <name>VersionText</name>
+    <message>
+      <source>Version %1 is out.</source>
+      <translation>Version %1 is out.</translation>
+    </message>
+    <message>
+      <source>This is the latest version.</source>
+      <translation>This is the latest version.</translation>
+    </message>
+    <message>
+      <source>The service gave an answer this program does not understand.</source>
+      <translation>The service gave an answer this program does not understand.</translation>
+    </message>
+  </context>
+  <context>
+    <name>ui_aboutView</name>
+    <message>
+      <source>About</source>
+      <translation>About</translation>
+    </message>
+    <message>
+      <source>Version %1</source>
+      <translation>Version %1</translation>
+    </message>
+    <message>
+      <source>Ask the service whether a newer version is out.</source>
+      <translation>Ask the service whether a newer version is out.</translation>
+    </message>
+    <message>
+      <source>Check for Updates</source>
+      <translation>Check for Updates</translation>
+    </message>
+    <message>
+      <source>Update</source>
+      <translation>Update</translation>
+    </message>
+    <message>
+      <source>Close</source>
+      <translation>Close</translation>
     </message>
   </context>
   <context>
@@ -1276,6 +1465,10 @@
       <translation>Update</translation>
     </message>
     <message>
+      <source>Crash Report</source>
+      <translation>Crash Report</translation>
+    </message>
+    <message>
       <source>Open a memory card to see the settings of its camera.</source>
       <translation>Open a memory card to see the settings of its camera.</translation>
     </message>
@@ -1332,6 +1525,33 @@
     <message>
       <source>tavoric</source>
       <translation>tavoric</translation>
+    </message>
+  </context>
+  <context>
+    <name>ui_updateView</name>
+    <message>
+      <source>Update</source>
+      <translation>Update</translation>
+    </message>
+    <message>
+      <source>A newer version of the program can be downloaded. When the download is complete, the program closes so that the new version can be installed.</source>
+      <translation>A newer version of the program can be downloaded. When the download is complete, the program closes so that the new version can be installed.</translation>
+    </message>
+    <message>
+      <source>Installed: %1    Available: %2</source>
+      <translation>Installed: %1    Available: %2</translation>
+    </message>
+    <message>
+      <source>Check for updates when the program starts</source>
+      <translation>Check for updates when the program starts</translation>
+    </message>
+    <message>
+      <source>Download</source>
+      <translation>Download</translation>
+    </message>
+    <message>
+      <source>Close</source>
+      <translation>Close</translation>
     </message>
   </context>
   <context>

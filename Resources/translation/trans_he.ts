@@ -395,7 +395,125 @@
     </message>
   </context>
   <context>
+    <name>ServiceRequest</name>
+    <message>
+      <source>Asking the service...</source>
+      <translation>שואל את השירות...</translation>
+    </message>
+    <message>
+      <source>The service for updates and reports is not working.</source>
+      <translation>שירות העדכונים והדוחות אינו פועל.</translation>
+    </message>
+    <message>
+      <source>The service for updates and reports does not use the network now.</source>
+      <translation>שירות העדכונים והדוחות אינו משתמש כעת ברשת.</translation>
+    </message>
+    <message>
+      <source>The service for updates and reports did not answer.</source>
+      <translation>שירות העדכונים והדוחות לא ענה.</translation>
+    </message>
+    <message>
+      <source>The connection to the service for updates and reports was lost.</source>
+      <translation>החיבור לשירות העדכונים והדוחות אבד.</translation>
+    </message>
+    <message>
+      <source>Check your Network state</source>
+      <translation>בדקו את מצב הרשת</translation>
+    </message>
+    <message>
+      <source>DownLoad Fail</source>
+      <translation>ההורדה נכשלה</translation>
+    </message>
+  </context>
+  <context>
+    <name>ServiceSession</name>
+    <message>
+      <source>Update Message</source>
+      <translation>הודעת עדכון</translation>
+    </message>
+    <message>
+      <source>find Update Version</source>
+      <translation>נמצאה גרסה חדשה</translation>
+    </message>
+    <message>
+      <source>Would you like to download now?</source>
+      <translation>להוריד אותה עכשיו?</translation>
+    </message>
+    <message>
+      <source>The new version has been downloaded. The program closes now so that it can be installed.</source>
+      <translation>הגרסה החדשה הורדה. התוכנה נסגרת עכשיו כדי שאפשר יהיה להתקין אותה.</translation>
+    </message>
+  </context>
+  <context>
     <name>SettingOpt</name>
+    <message>
+      <source>Automatic Crash Reports</source>
+      <translation>דוחות קריסה אוטומטיים</translation>
+    </message>
+    <message>
+      <source>After the program ended unexpectedly, the service sends its status log without asking.</source>
+      <translation>אחרי שהתוכנה נסגרה באופן בלתי צפוי, השירות שולח את יומן המצב שלה בלי לשאול.</translation>
+    </message>
+    <message>
+      <source>Send a Crash Report</source>
+      <translation>שליחת דוח קריסה</translation>
+    </message>
+    <message>
+      <source>Send Now</source>
+      <translation>שליחה עכשיו</translation>
+    </message>
+    <message>
+      <source>Language</source>
+      <translation>שפה</translation>
+    </message>
+    <message>
+      <source>Speed Unit</source>
+      <translation>יחידת מהירות</translation>
+    </message>
+    <message>
+      <source>Keep Settings</source>
+      <translation>שמירת ההגדרות</translation>
+    </message>
+    <message>
+      <source>Save the window, language, sound and folders when the program closes.</source>
+      <translation>שמירת החלון, השפה, הצליל והתיקיות כשהתוכנה נסגרת.</translation>
+    </message>
+    <message>
+      <source>Snapshot Folder</source>
+      <translation>תיקיית צילומי מסך</translation>
+    </message>
+    <message>
+      <source>Change</source>
+      <translation>שינוי</translation>
+    </message>
+    <message>
+      <source>Video Folder</source>
+      <translation>תיקיית וידאו</translation>
+    </message>
+    <message>
+      <source>Program Reset</source>
+      <translation>איפוס התוכנה</translation>
+    </message>
+    <message>
+      <source>Program Version</source>
+      <translation>גרסת התוכנה</translation>
+    </message>
+    <message>
+      <source>Check for Updates at Start</source>
+      <translation>בדיקת עדכונים בהפעלה</translation>
+    </message>
+    <message>
+      <source>Each start asks the service whether a newer version is out.</source>
+      <translation>בכל הפעלה נשאל השירות אם יצאה גרסה חדשה יותר.</translation>
+    </message>
+    <message>
+      <source>Newer Version</source>
+      <translation>גרסה חדשה יותר</translation>
+    </message>
+    <message>
+      <source>Update Now</source>
+      <translation>עדכון עכשיו</translation>
+    </message>
     <message>
       <source>Camera</source>
       <translation>מצלמה</translation>
@@ -757,10 +875,6 @@
       <translation>שעון קיץ</translation>
     </message>
     <message>
-      <source>Speed Unit</source>
-      <translation>יחידת מהירות</translation>
-    </message>
-    <message>
       <source>km/h</source>
       <translation>קמ"ש</translation>
     </message>
@@ -815,6 +929,20 @@
     <message>
       <source>LCD Auto Off</source>
       <translation>כיבוי מסך אוטומטי</translation>
+    </message>
+  </context>
+  <context>
+    <name>SettingOptCrashReport</name>
+    <message>
+      <source>The transfer is complete.</source>
+      <translation>ההעברה הושלמה.</translation>
+    </message>
+  </context>
+  <context>
+    <name>SettingOptProgram</name>
+    <message>
+      <source>Choose a folder</source>
+      <translation>בחירת תיקייה</translation>
     </message>
   </context>
   <context>
@@ -991,6 +1119,67 @@
     <message>
       <source>About</source>
       <translation>אודות</translation>
+    </message>
+  </context>
+  <context>
+    <name>UpdateView</name>
+    <message>
+      <source>unknown</source>
+      <translation>לא ידוע</translation>
+    </message>
+    <message>
+      <source>Downloading the new version...</source>
+      <translation>מוריד את הגרסה החדשה...</translation>
+    </message>
+    <message>
+      <source>The service is still downloading. Please wait...</source>
+      <translation>השירות עדיין מוריד. נא להמתין...</translation>
+    </message>
+    <message>
+      <source>The download is complete.</source>
+      <translation>ההורדה הושלמה.</translation>
+    </message>
+  </context>
+  <context>
+    <name>VersionText</name>
+    <message>
+      <source>Version %1 is out.</source>
+      <translation>גרסה %1 יצאה.</translation>
+    </message>
+    <message>
+      <source>This is the latest version.</source>
+      <translation>זו הגרסה העדכנית ביותר.</translation>
+    </message>
+    <message>
+      <source>The service gave an answer this program does not understand.</source>
+      <translation>השירות נתן תשובה שהתוכנה אינה מבינה.</translation>
+    </message>
+  </context>
+  <context>
+    <name>ui_aboutView</name>
+    <message>
+      <source>About</source>
+      <translation>אודות</translation>
+    </message>
+    <message>
+      <source>Version %1</source>
+      <translation>גרסה %1</translation>
+    </message>
+    <message>
+      <source>Ask the service whether a newer version is out.</source>
+      <translation>אפשר לשאול את השירות אם יצאה גרסה חדשה יותר.</translation>
+    </message>
+    <message>
+      <source>Check for Updates</source>
+      <translation>בדיקת עדכונים</translation>
+    </message>
+    <message>
+      <source>Update</source>
+      <translation>עדכון</translation>
+    </message>
+    <message>
+      <source>Close</source>
+      <translation>סגירה</translation>
     </message>
   </context>
   <context>
@@ -1283,6 +1472,10 @@
       <translation>עדכון</translation>
     </message>
     <message>
+      <source>Crash Report</source>
+      <translation>דוח קריסה</translation>
+    </message>
+    <message>
       <source>Open a memory card to see the settings of its camera.</source>
       <translation>פתח כרטיס זיכרון כדי לראות את הגדרות המצלמה שלו.</translation>
     </message>
@@ -1339,6 +1532,33 @@
     <message>
       <source>tavoric</source>
       <translation>tavoric</translation>
+    </message>
+  </context>
+  <context>
+    <name>ui_updateView</name>
+    <message>
+      <source>Update</source>
+      <translation>עדכון</translation>
+    </message>
+    <message>
+      <source>A newer version of the program can be downloaded. When the download is complete, the program closes so that the new version can be installed.</source>
+      <translation>אפשר להוריד גרסה חדשה יותר של התוכנה. כשההורדה תושלם, התוכנה תיסגר כדי שאפשר יהיה להתקין את הגרסה החדשה.</translation>
+    </message>
+    <message>
+      <source>Installed: %1    Available: %2</source>
+      <translation>מותקנת: %1    זמינה: %2</translation>
+    </message>
+    <message>
+      <source>Check for updates when the program starts</source>
+      <translation>בדיקת עדכונים בהפעלת התוכנה</translation>
+    </message>
+    <message>
+      <source>Download</source>
+      <translation>הורדה</translation>
+    </message>
+    <message>
+      <source>Close</source>
+      <translation>סגירה</translation>
     </message>
   </context>
   <context>

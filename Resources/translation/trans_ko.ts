@@ -388,7 +388,125 @@
     </message>
   </context>
   <context>
+    <name>ServiceRequest</name>
+    <message>
+      <source>Asking the service...</source>
+      <translation>서비스에 묻는 중...</translation>
+    </message>
+    <message>
+      <source>The service for updates and reports is not working.</source>
+      <translation>업데이트 및 보고서 서비스가 작동하지 않습니다.</translation>
+    </message>
+    <message>
+      <source>The service for updates and reports does not use the network now.</source>
+      <translation>업데이트 및 보고서 서비스가 지금은 네트워크를 사용하지 않습니다.</translation>
+    </message>
+    <message>
+      <source>The service for updates and reports did not answer.</source>
+      <translation>업데이트 및 보고서 서비스가 응답하지 않았습니다.</translation>
+    </message>
+    <message>
+      <source>The connection to the service for updates and reports was lost.</source>
+      <translation>업데이트 및 보고서 서비스와의 연결이 끊어졌습니다.</translation>
+    </message>
+    <message>
+      <source>Check your Network state</source>
+      <translation>네트워크 상태를 확인하세요</translation>
+    </message>
+    <message>
+      <source>DownLoad Fail</source>
+      <translation>다운로드 실패</translation>
+    </message>
+  </context>
+  <context>
+    <name>ServiceSession</name>
+    <message>
+      <source>Update Message</source>
+      <translation>업데이트 알림</translation>
+    </message>
+    <message>
+      <source>find Update Version</source>
+      <translation>새 버전이 있습니다</translation>
+    </message>
+    <message>
+      <source>Would you like to download now?</source>
+      <translation>지금 다운로드하시겠습니까?</translation>
+    </message>
+    <message>
+      <source>The new version has been downloaded. The program closes now so that it can be installed.</source>
+      <translation>새 버전을 다운로드했습니다. 설치할 수 있도록 프로그램을 지금 종료합니다.</translation>
+    </message>
+  </context>
+  <context>
     <name>SettingOpt</name>
+    <message>
+      <source>Automatic Crash Reports</source>
+      <translation>오류 보고서 자동 전송</translation>
+    </message>
+    <message>
+      <source>After the program ended unexpectedly, the service sends its status log without asking.</source>
+      <translation>프로그램이 예기치 않게 종료되면 서비스가 묻지 않고 상태 기록을 보냅니다.</translation>
+    </message>
+    <message>
+      <source>Send a Crash Report</source>
+      <translation>오류 보고서 보내기</translation>
+    </message>
+    <message>
+      <source>Send Now</source>
+      <translation>지금 보내기</translation>
+    </message>
+    <message>
+      <source>Language</source>
+      <translation>언어</translation>
+    </message>
+    <message>
+      <source>Speed Unit</source>
+      <translation>속도 단위</translation>
+    </message>
+    <message>
+      <source>Keep Settings</source>
+      <translation>설정 유지</translation>
+    </message>
+    <message>
+      <source>Save the window, language, sound and folders when the program closes.</source>
+      <translation>프로그램을 닫을 때 창, 언어, 소리, 폴더를 저장합니다.</translation>
+    </message>
+    <message>
+      <source>Snapshot Folder</source>
+      <translation>스냅샷 폴더</translation>
+    </message>
+    <message>
+      <source>Change</source>
+      <translation>변경</translation>
+    </message>
+    <message>
+      <source>Video Folder</source>
+      <translation>동영상 폴더</translation>
+    </message>
+    <message>
+      <source>Program Reset</source>
+      <translation>프로그램 초기화</translation>
+    </message>
+    <message>
+      <source>Program Version</source>
+      <translation>프로그램 버전</translation>
+    </message>
+    <message>
+      <source>Check for Updates at Start</source>
+      <translation>시작할 때 업데이트 확인</translation>
+    </message>
+    <message>
+      <source>Each start asks the service whether a newer version is out.</source>
+      <translation>시작할 때마다 새 버전이 나왔는지 서비스에 묻습니다.</translation>
+    </message>
+    <message>
+      <source>Newer Version</source>
+      <translation>새 버전</translation>
+    </message>
+    <message>
+      <source>Update Now</source>
+      <translation>지금 업데이트</translation>
+    </message>
     <message>
       <source>Camera</source>
       <translation>카메라</translation>
@@ -750,10 +868,6 @@
       <translation>서머타임</translation>
     </message>
     <message>
-      <source>Speed Unit</source>
-      <translation>속도 단위</translation>
-    </message>
-    <message>
       <source>km/h</source>
       <translation>km/h</translation>
     </message>
@@ -808,6 +922,20 @@
     <message>
       <source>LCD Auto Off</source>
       <translation>LCD 자동 꺼짐</translation>
+    </message>
+  </context>
+  <context>
+    <name>SettingOptCrashReport</name>
+    <message>
+      <source>The transfer is complete.</source>
+      <translation>전송이 완료되었습니다.</translation>
+    </message>
+  </context>
+  <context>
+    <name>SettingOptProgram</name>
+    <message>
+      <source>Choose a folder</source>
+      <translation>폴더 선택</translation>
     </message>
   </context>
   <context>
@@ -984,6 +1112,67 @@
     <message>
       <source>About</source>
       <translation>정보</translation>
+    </message>
+  </context>
+  <context>
+    <name>UpdateView</name>
+    <message>
+      <source>unknown</source>
+      <translation>알 수 없음</translation>
+    </message>
+    <message>
+      <source>Downloading the new version...</source>
+      <translation>새 버전을 다운로드하는 중...</translation>
+    </message>
+    <message>
+      <source>The service is still downloading. Please wait...</source>
+      <translation>서비스가 아직 다운로드 중입니다. 잠시 기다려 주세요...</translation>
+    </message>
+    <message>
+      <source>The download is complete.</source>
+      <translation>다운로드가 완료되었습니다.</translation>
+    </message>
+  </context>
+  <context>
+    <name>VersionText</name>
+    <message>
+      <source>Version %1 is out.</source>
+      <translation>버전 %1이(가) 나왔습니다.</translation>
+    </message>
+    <message>
+      <source>This is the latest version.</source>
+      <translation>최신 버전입니다.</translation>
+    </message>
+    <message>
+      <source>The service gave an answer this program does not understand.</source>
+      <translation>서비스가 이 프로그램이 이해할 수 없는 응답을 보냈습니다.</translation>
+    </message>
+  </context>
+  <context>
+    <name>ui_aboutView</name>
+    <message>
+      <source>About</source>
+      <translation>정보</translation>
+    </message>
+    <message>
+      <source>Version %1</source>
+      <translation>버전 %1</translation>
+    </message>
+    <message>
+      <source>Ask the service whether a newer version is out.</source>
+      <translation>새 버전이 나왔는지 서비스에 물어보세요.</translation>
+    </message>
+    <message>
+      <source>Check for Updates</source>
+      <translation>업데이트 확인</translation>
+    </message>
+    <message>
+      <source>Update</source>
+      <translation>업데이트</translation>
+    </message>
+    <message>
+      <source>Close</source>
+      <translation>닫기</translation>
     </message>
   </context>
   <context>
@@ -1276,6 +1465,10 @@
       <translation>업데이트</translation>
     </message>
     <message>
+      <source>Crash Report</source>
+      <translation>오류 보고서</translation>
+    </message>
+    <message>
       <source>Open a memory card to see the settings of its camera.</source>
       <translation>카메라 설정을 보려면 메모리 카드를 여세요.</translation>
     </message>
@@ -1332,6 +1525,33 @@
     <message>
       <source>tavoric</source>
       <translation>tavoric</translation>
+    </message>
+  </context>
+  <context>
+    <name>ui_updateView</name>
+    <message>
+      <source>Update</source>
+      <translation>업데이트</translation>
+    </message>
+    <message>
+      <source>A newer version of the program can be downloaded. When the download is complete, the program closes so that the new version can be installed.</source>
+      <translation>프로그램의 새 버전을 다운로드할 수 있습니다. 다운로드가 완료되면 새 버전을 설치할 수 있도록 프로그램이 종료됩니다.</translation>
+    </message>
+    <message>
+      <source>Installed: %1    Available: %2</source>
+      <translation>설치됨: %1    사용 가능: %2</translation>
+    </message>
+    <message>
+      <source>Check for updates when the program starts</source>
+      <translation>프로그램을 시작할 때 업데이트 확인</translation>
+    </message>
+    <message>
+      <source>Download</source>
+      <translation>다운로드</translation>
+    </message>
+    <message>
+      <source>Close</source>
+      <translation>닫기</translation>
     </message>
   </context>
   <context>

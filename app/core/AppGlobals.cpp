@@ -1,6 +1,8 @@
 #include "AppGlobals.h"
 
 #include <QCoreApplication>
+#include <QSettings>
+#include <QStandardPaths>
 #include <QTranslator>
 
 QSettings* AppGlobals::settings = nullptr;
@@ -19,6 +21,25 @@ bool AppGlobals::mute = false;
 QString AppGlobals::snapshotPath;
 QString AppGlobals::videoPath;
 int AppGlobals::speedUnit = 1;
+
+QString AppGlobals::agreementValue(bool updateChecks, bool crashReports) {
+    return QString::number(1 | (updateChecks ? 2 : 0) | (crashReports ? 4 : 0));
+}
+
+void AppGlobals::storeAgreement(bool updateChecks, bool crashReports) {
+    settings->setValue("agreement", agreementValue(updateChecks, crashReports));
+    settings->sync();
+    updateChecksAllowed = updateChecks;
+    autoCrashReports = crashReports;
+}
+
+QString AppGlobals::defaultSnapshotFolder() {
+    return QStandardPaths::writableLocation(QStandardPaths::PicturesLocation) + "/ZENTA";
+}
+
+QString AppGlobals::defaultVideoFolder() {
+    return QStandardPaths::writableLocation(QStandardPaths::MoviesLocation) + "/ZENTA";
+}
 
 QString AppGlobals::statusLogPath() {
     return dataFolder + QLatin1String(kStatusLogName);

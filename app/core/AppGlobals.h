@@ -26,11 +26,20 @@ public:
     static bool updateChecksAllowed;
     static bool autoCrashReports;
 
+    // The stored form of the privacy choices: 1, plus 2 for update checks, plus 4 for crash
+    // reports.
+    static QString agreementValue(bool updateChecks, bool crashReports);
+    // Stores the choices as the "agreement" setting and takes them for this run.
+    static void storeAgreement(bool updateChecks, bool crashReports);
+
     // Kept in the settings store and saved at exit.
     static int volume;
     static bool mute;
     static QString snapshotPath;
     static QString videoPath;
+    // Where snapshots and video go while no folder was chosen.
+    static QString defaultSnapshotFolder();
+    static QString defaultVideoFolder();
     // Speeds in the report: 2 miles per hour, anything else kilometres per hour.
     static int speedUnit;
 

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "ServiceRequest.h"
+#include "SettingOptPage.h"
+
+class SettingOpt;
+class SettingOptAction;
+
+// The settings dialog's crash-report page. The status log outlives only an abnormal end;
+// the service sends it, on its own when the user allowed automatic reports, or now with
+// "Send Now" ("Report", answered "Send_Complete").
+class SettingOptCrashReport : public SettingOptPage {
+    Q_OBJECT
+public:
+    explicit SettingOptCrashReport(QWidget* parent = nullptr);
+
+    SettingOpt* autoReportRow() const { return m_autoReport; }
+    SettingOptAction* sendRow() const { return m_send; }
+
+    void retranslate() override;
+
+public slots:
+    void onClickSend();
+    void onRecvMessage(const QString& message);
+
+private:
+    SettingOpt* m_autoReport;
+    SettingOptAction* m_send;
+    // A child, so that tests find it.
+    ServiceRequest m_request{this};
+};

@@ -1,0 +1,114 @@
+#include "SettingOptProgram.h"
+
+#include "AppGlobals.h"
+#include "SettingOpt.h"
+#include "SettingOptAction.h"
+#include "StatusLog.h"
+#include "TavPrompt.h"
+#include "UiDescription.h"
+
+#include <QDir>
+#include <QSettings>
+
+namespace {
+
+const char* const kLanguage = QT_TRANSLATE_NOOP("SettingOpt", "Language");
+const char* const kSpeedUnit = QT_TRANSLATE_NOOP("SettingOpt", "Speed Unit");
+const char* const kKeep = QT_TRANSLATE_NOOP("SettingOpt", "Keep Settings");
+
+} // namespace
+
+SettingOptProgram::SettingOptProgram(QWidget* parent)
+    : SettingOptPage("page_Program Setting", "programTitle", parent) {
+    // Each language under its own name, whatever the interface shows now.
+    const SettingRecord records[] = {
+        record(kLanguage, SettingOpt::ComboKind,
+               {{QStringLiteral("English"), 0},
+                {QStringLiteral("\uD55C\uAD6D\uC5B4"), 1},
+                {QStringLiteral("\u05E2\u05D1\u05E8\u05D9\u05EA"), 2}}),
+        record(kSpeedUnit, SettingOpt::ChoiceKind,
+               {{QStringLiteral("Km/h"), 1}, {QStringLiteral("Mi/h"), 2}}),
+        record(kKeep, SettingOpt::ToggleKind, {},
+               QT_TRANSLATE_NOOP("SettingOpt", "Save the window, language, sound and folders "
+                                               "when the program closes.")),
+    };
+    for (const SettingRecord& made : records) {
+        auto* option = new SettingOpt(made, look(), this);
+        m_options.append(option);
+        connect(option, &SettingOpt::onSendValueChanged, this, &SettingOptProgram::onOptionChanged);
+    }
+    m_options[0]->setValue(AppGlobals::languageIndex);
+    m_options[1]->setValue(AppGlobals::speedUnit == 2 ? 2 : 1);
+    m_options[2]->setValue(keepsSettings() ? 1 : 0);
+
+    m_snapshot =
+        new SettingOptAction(QT_TRANSLATE_NOOP("SettingOpt", "Snapshot Folder"),
+                             QT_TRANSLATE_NOOP("SettingOpt", "Change"), look(), "optAction", this);
+    m_video =
+        new SettingOptAction(QT_TRANSLATE_NOOP("SettingOpt", "Video Folder"),
+                             QT_TRANSLATE_NOOP("SettingOpt", "Change"), look(), "optAction", this);
+    connect(m_snapshot, &SettingOptAction::clicked, this, [this] { chooseFolder(false); });
+    connect(m_video, &SettingOptAction::clicked, this, [this] { chooseFolder(true); });
+    m_reset = new SettingOptAction(QT_TRANSLATE_NOOP("SettingOpt", "Program Reset"),
+                                   QT_TRANSLATE_NOOP("SettingOpt", "Program Reset"), look(),
+                                   "bProgramReset", this);
+    connect(m_reset, &SettingOptAction::clicked, this, &SettingOptProgram::onSendProgramReset);
+
+    addRows({m_options[0], m_options[1], m_snapshot, m_video, m_options[2], m_reset});
+    retranslate();
+}
+
+bool SettingOptProgram::keepsSettings() {
+    return AppGlobals::settings->value(kKeepSettingsKey, true).toBool();
+}
+
+SettingOpt* SettingOptProgram::option(const QString& name) const {
+    for (SettingOpt* option : m_options) {
+        if (option->record().name == name)
+            return option;
+    }
+    return nullptr;
+}
+
+void SettingOptProgram::retranslate() {
+    SettingOptPage::retranslate();
+    for (SettingOpt* option : qAsConst(m_options))
+        option->retranslate();
+    for (SettingOptAction* row : {m_snapshot, m_video, m_reset})
+        row->retranslate();
+    m_reset->setHint(look().translatedText("programNote"));
+    showFolders();
+}
+
+void SettingOptProgram::showFolders() {
+    const auto shown = [](const QString& path, const QString& fallback) {
+        return QDir::toNativeSeparators(path.isEmpty() ? fallback : path);
+    };
+    m_snapshot->setHint(shown(AppGlobals::snapshotPath, AppGlobals::defaultSnapshotFolder()));
+    m_video->setHint(shown(AppGlobals::videoPath, AppGlobals::defaultVideoFolder()));
+}
+
+void SettingOptProgram::chooseFolder(bool video) {
+    logDebug("SettingOptProgram::chooseFolder");
+    const QString folder = TavPrompt::openFolder(this, tr("Choose a folder"));
+    if (folder.isEmpty())
+        return;
+    (video ? AppGlobals::videoPath : AppGlobals::snapshotPath) = QDir::fromNativeSeparators(folder);
+    showFolders();
+}
+
+void SettingOptProgram::onOptionChanged(const QString& name, int value) {
+    logDebug("SettingOptProgram::onOptionChanged");
+    QSettings& settings = *AppGlobals::settings;
+    if (name == QLatin1String(kLanguage)) {
+        AppGlobals::languageIndex = value;
+        AppGlobals::installTranslation(value);
+        emit onSendChangeLanguage();
+    } else if (name == QLatin1String(kSpeedUnit)) {
+        AppGlobals::speedUnit = value;
+        settings.setValue(kSpeedUnitKey, value);
+    } else if (name == QLatin1String(kKeep)) {
+        settings.setValue(kKeepSettingsKey, value != 0);
+    }
+    settings.sync();
+}

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "SettingOptPage.h"
+
+#include <QVector>
+
+class SettingOpt;
+class SettingOptAction;
+
+// The settings dialog's page of the program's own settings: the interface language, the
+// unit of speeds, the folders snapshots and video are saved to, whether the program keeps
+// its window, sound and folders when it closes, and the program reset. Each change takes
+// effect at once.
+class SettingOptProgram : public SettingOptPage {
+    Q_OBJECT
+public:
+    // Settings of this page that the main window does not save at its end.
+    static constexpr const char* kSpeedUnitKey = "speedUnit";
+    static constexpr const char* kKeepSettingsKey = "keepSettings";
+
+    explicit SettingOptProgram(QWidget* parent = nullptr);
+
+    // Whether the program saves its settings when it closes ("keepSettings", true when
+    // absent).
+    static bool keepsSettings();
+
+    SettingOpt* option(const QString& name) const;
+    SettingOptAction* snapshotRow() const { return m_snapshot; }
+    SettingOptAction* videoRow() const { return m_video; }
+    SettingOptAction* resetRow() const { return m_reset; }
+
+    void retranslate() override;
+
+signals:
+    // The language was switched; the views show their texts anew.
+    void onSendChangeLanguage();
+    // The user asks for the program reset (the dialog asks and does it).
+    void onSendProgramReset();
+
+private slots:
+    void onOptionChanged(const QString& name, int value);
+
+private:
+    void chooseFolder(bool video);
+    void showFolders();
+
+    QVector<SettingOpt*> m_options;
+    SettingOptAction* m_snapshot;
+    SettingOptAction* m_video;
+    SettingOptAction* m_reset;
+};

@@ -1,0 +1,401 @@
+// What the user meets of the companion service, against the stand-in service: the main
+// window's version check and its answers (the update question, the download, its failure
+// and completion, closing for the installer), the about view, the update dialog, and the
+// settings dialog's pages of the program itself; and, without a service, the clear word
+// that it is not working.
+#include "AboutView.h"
+#include "AppGlobals.h"
+#include "LocalSocket.h"
+#include "ServiceFixture.h"
+#include "ServiceSession.h"
+#include "SettingOpt.h"
+#include "SettingOptAction.h"
+#include "SettingOptCrashReport.h"
+#include "SettingOptProgram.h"
+#include "SettingOptUpdate.h"
+#include "SettingView.h"
+#include "TavPrompt.h"
+#include "UpdateView.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFile>
+#include <QLabel>
+#include <QPushButton>
+#include <QSettings>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTranslator>
+#include <QtTest>
+
+class TestServiceDialogs : public QObject {
+    Q_OBJECT
+
+    ServiceFixture m_service;
+    QTemporaryDir m_dir;
+    QWidget m_window;
+    QStringList m_messages;
+    QStringList m_questions;
+    bool m_answer = false;
+
+    QStringList logLines() const {
+        QFile file(AppGlobals::statusLogPath());
+        if (!file.open(QIODevice::ReadOnly))
+            return {};
+        QStringList lines;
+        for (const QByteArray& line : file.readAll().split('\n'))
+            lines << QString::fromLocal8Bit(line.mid(15));
+        return lines;
+    }
+
+    static QPushButton* button(QWidget* view, const char* name) {
+        auto* found = view->findChild<QPushButton*>(QLatin1String(name));
+        if (found == nullptr)
+            qWarning("no button %s", name);
+        return found;
+    }
+
+    // A button of a settings row found by its text.
+    static QPushButton* rowButton(QWidget* row, const QString& text) {
+        for (QPushButton* candidate : row->findChildren<QPushButton*>()) {
+            if (candidate->text() == text)
+                return candidate;
+        }
+        qWarning("no button %s", qPrintable(text));
+        return nullptr;
+    }
+
+    static QString notWorking() {
+        return ServiceRequest::failureText(ServiceRequest::NotConnected);
+    }
+
+private slots:
+    void initTestCase() {
+        AppGlobals::dataFolder = m_dir.filePath("data");
+        QDir().mkpath(AppGlobals::dataFolder);
+        AppGlobals::programFolder = QCoreApplication::applicationDirPath();
+        AppGlobals::resourcesFolder = AppGlobals::programFolder + "/Resources";
+        AppGlobals::settings = new QSettings(m_dir.filePath("settings.ini"), QSettings::IniFormat);
+        AppGlobals::translator = new QTranslator;
+        AppGlobals::version = "1.0.6";
+        TavPrompt::informHook = [this](const QString& text) { m_messages << text; };
+        TavPrompt::askTitledHook = [this](const QString& title, const QString& text) {
+            m_questions << title + ": " + text;
+            return m_answer;
+        };
+        m_window.resize(800, 600);
+    }
+
+    void init() {
+        m_messages.clear();
+        m_questions.clear();
+        AppGlobals::settings->clear();
+        AppGlobals::settings->setValue("agreement", "3");
+        AppGlobals::updateChecksAllowed = true;
+        AppGlobals::autoCrashReports = false;
+        QFile::remove(AppGlobals::statusLogPath());
+    }
+
+    void cleanup() { m_service.stop(); }
+
+    void withoutServiceEachSaysSo() {
+        ServiceSession session(&m_window);
+        QVERIFY(!LocalSocket::serviceConnected);
+        session.startVersionCheck();
+
+        AboutView about;
+        QCOMPARE(about.stateLabel()->text(), notWorking());
+        button(&about, "bUpdate")->click();
+        QTRY_COMPARE(m_messages, QStringList{notWorking()});
+
+        UpdateView update("1.0.7");
+        QCOMPARE(update.stateLabel()->text(), notWorking());
+        button(&update, "bDownload")->click();
+        QTRY_COMPARE(m_messages.size(), 2);
+        QVERIFY(!update.isDownloading());
+
+        SettingView settings;
+        QCOMPARE(settings.updatePage()->updateNowRow()->hint()->text(), notWorking());
+        QCOMPARE(settings.crashReportPage()->sendRow()->hint()->text(), notWorking());
+        settings.updatePage()->updateNowRow()->button()->click();
+        settings.crashReportPage()->sendRow()->button()->click();
+        QTRY_COMPARE(m_messages, QVector<QString>(4, notWorking()).toList());
+        QVERIFY(!logLines().join('\n').contains("Send Message"));
+    }
+
+    void versionCheckAtStart_data() {
+        QTest::addColumn<QStringList>("answers");
+        QTest::addColumn<bool>("yes");
+        QTest::addColumn<QStringList>("received");
+        QTest::addColumn<QStringList>("messages");
+        QTest::addColumn<bool>("quits");
+        const QString hello = LocalSocket::kHello;
+        const QString failed = ServiceRequest::failureText(ServiceRequest::DownloadFailed);
+        QTest::newRow("no update") << QStringList{"@version=NoUpdate"} << false
+                                   << QStringList{hello, "1.0.6"} << QStringList{} << false;
+        QTest::newRow("update declined") << QStringList{"@version=FindUpdate"} << false
+                                         << QStringList{hello, "1.0.6"} << QStringList{} << false;
+        QTest::newRow("download fails")
+            << QStringList{"@version=FindUpdate", "Download=fail"} << true
+            << QStringList{hello, "1.0.6", "Download"} << QStringList{failed} << false;
+        QTest::newRow("download completes")
+            << QStringList{"@version=FindUpdate", "Download=wait",
+                           "DownloadWaiting=@sleep=300|complete"}
+            << true << QStringList{hello, "1.0.6", "Download", "DownloadWaiting", "closeToDoNot"}
+            << QStringList{"The new version has been downloaded. The program closes now so "
+                           "that it can be installed."}
+            << true;
+        QTest::newRow("unknown answer") << QStringList{"@version=@garbage"} << true
+                                        << QStringList{hello, "1.0.6"} << QStringList{} << false;
+    }
+
+    void versionCheckAtStart() {
+        QFETCH(QStringList, answers);
+        QFETCH(bool, yes);
+        QFETCH(QStringList, received);
+        QFETCH(QStringList, messages);
+        QFETCH(bool, quits);
+        QVERIFY(m_service.start(answers));
+        m_answer = yes;
+        ServiceSession session(&m_window);
+        QVERIFY(LocalSocket::serviceConnected);
+        QSignalSpy quit(&session, &ServiceSession::onSendQuitForUpdate);
+        session.startVersionCheck();
+        QTRY_COMPARE(m_service.received(), received);
+        QTest::qWait(300);
+        QCOMPARE(m_service.received(), received);
+        QCOMPARE(m_messages, messages);
+        QCOMPARE(quit.count(), quits ? 1 : 0);
+        if (received.contains("Download"))
+            QCOMPARE(m_questions, QStringList{"Update Message: find Update Version\nWould you "
+                                              "like to download now?"});
+        // Whatever the service said is in the log as text, printf directives included.
+        QVERIFY(logLines().join('\n').contains("[d] [MainWindow] RecvMessage: "));
+        if (QTest::currentDataTag() == QLatin1String("unknown answer"))
+            QVERIFY(logLines().join('\n').contains("%n%s%s"));
+    }
+
+    void noVersionCheckWithoutPermission() {
+        QVERIFY(m_service.start());
+        AppGlobals::updateChecksAllowed = false;
+        ServiceSession session(&m_window);
+        session.startVersionCheck();
+        QTest::qWait(300);
+        QCOMPARE(m_service.received(), QStringList{LocalSocket::kHello});
+        // The end: the goodbye, and the link closed.
+        session.close();
+        QVERIFY(m_service.waitFor("-"));
+        QCOMPARE(m_service.received().last(), QString(LocalSocket::kGoodbye));
+    }
+
+    void updateDialogAcceptedClosesTheProgram() {
+        QVERIFY(m_service.start());
+        ServiceSession session(&m_window);
+        QSignalSpy quit(&session, &ServiceSession::onSendQuitForUpdate);
+        session.onUpdateDlgFinished(0);
+        QCOMPARE(quit.count(), 0);
+        session.onUpdateDlgFinished(1);
+        QCOMPARE(quit.count(), 1);
+        QVERIFY(m_service.waitFor("< closeToDoNot"));
+        QVERIFY(logLines().contains("[i] Update is Exist. Program will be close"));
+    }
+
+    void aboutView_data() {
+        QTest::addColumn<QString>("answer");
+        QTest::addColumn<QString>("state");
+        QTest::addColumn<bool>("offered");
+        const QString unknown = ServiceRequest::failureText(ServiceRequest::NotUnderstood);
+        QTest::newRow("newer") << "1.0.7"
+                               << "Version 1.0.7 is out." << true;
+        QTest::newRow("newer by number") << "1.0.10"
+                                         << "Version 1.0.10 is out." << true;
+        QTest::newRow("same") << "1.0.6"
+                              << "This is the latest version." << false;
+        QTest::newRow("older") << "1.0.5"
+                               << "This is the latest version." << false;
+        QTest::newRow("garbage") << "@garbage" << unknown << false;
+        QTest::newRow("very long") << "@long=300000" << unknown << false;
+        QTest::newRow("silent") << "@silent"
+                                << ServiceRequest::failureText(ServiceRequest::NoAnswer) << false;
+        QTest::newRow("hangs up") << "@close"
+                                  << ServiceRequest::failureText(ServiceRequest::LinkLost) << false;
+    }
+
+    void aboutView() {
+        QFETCH(QString, answer);
+        QFETCH(QString, state);
+        QFETCH(bool, offered);
+        QVERIFY(m_service.start({"Version=" + answer}));
+        ServiceSession session(&m_window);
+        AboutView view(&m_window);
+        view.findChild<ServiceRequest*>()->setAnswerMs(500);
+        QSignalSpy showUpdate(&view, &AboutView::onSendShowUpdate);
+        QVERIFY(view.findChild<QLabel*>("lVersion")->text().contains("1.0.6"));
+        button(&view, "bUpdate")->click();
+        QTRY_COMPARE(view.stateLabel()->text(), state);
+        QVERIFY(m_service.received().contains("Version"));
+        QPushButton* update = button(&view, "bDownload");
+        QCOMPARE(update->isEnabled(), offered);
+        if (offered) {
+            QVERIFY(m_messages.isEmpty());
+            update->click();
+            QCOMPARE(showUpdate.count(), 1);
+            QCOMPARE(showUpdate[0][0].toString(), answer);
+        } else if (state != "This is the latest version.") {
+            // Told in a message too, and the question may be asked again.
+            QCOMPARE(m_messages, QStringList{state});
+            QVERIFY(button(&view, "bUpdate")->isEnabled());
+        }
+        for (const QString& line : logLines())
+            QVERIFY(line.mid(4).size() < 1024); // the log's line buffer
+    }
+
+    void updateDialog_data() {
+        QTest::addColumn<QStringList>("answers");
+        QTest::addColumn<int>("result");
+        QTest::addColumn<QStringList>("messages");
+        QTest::newRow("waits, then complete")
+            << QStringList{"Download=wait", "DownloadWaiting=@sleep=300|complete"} << 1
+            << QStringList{};
+        QTest::newRow("fails") << QStringList{"Download=fail"} << -1
+                               << QStringList{
+                                      ServiceRequest::failureText(ServiceRequest::DownloadFailed)};
+        QTest::newRow("unknown answer")
+            << QStringList{"Download=@garbage"} << -1
+            << QStringList{ServiceRequest::failureText(ServiceRequest::NotUnderstood)};
+        QTest::newRow("service switched off")
+            << QStringList{"HelloLauncher=DisableNetwork"} << -1
+            << QStringList{ServiceRequest::failureText(ServiceRequest::Disabled)};
+    }
+
+    void updateDialog() {
+        QFETCH(QStringList, answers);
+        QFETCH(int, result);
+        QFETCH(QStringList, messages);
+        QVERIFY(m_service.start(answers));
+        ServiceSession session(&m_window);
+        UpdateView view("1.0.7", &m_window);
+        QVERIFY(view.findChild<QLabel*>("lVersions")->text().contains("1.0.7"));
+        QSignalSpy finished(&view, &QDialog::finished);
+        button(&view, "bDownload")->click();
+        if (result == 1) {
+            QVERIFY(view.isDownloading());
+            QVERIFY(!button(&view, "bDownload")->isEnabled());
+            QTRY_COMPARE(finished.count(), 1);
+            QCOMPARE(finished[0][0].toInt(), 1);
+            QCOMPARE(m_service.received(),
+                     (QStringList{LocalSocket::kHello, "Download", "DownloadWaiting"}));
+        } else {
+            QTRY_COMPARE(m_messages, messages);
+            QCOMPARE(finished.count(), 0);
+            QVERIFY(!view.isDownloading());
+            QVERIFY(button(&view, "bDownload")->isEnabled());
+        }
+    }
+
+    void updateDialogKeepsTheUpdateCheckChoice() {
+        QVERIFY(m_service.start());
+        ServiceSession session(&m_window);
+        AppGlobals::settings->setValue("agreement", "7");
+        AppGlobals::autoCrashReports = true;
+        UpdateView view;
+        auto* check = view.findChild<QCheckBox*>("chkUpdate");
+        QVERIFY(check->isChecked());
+        check->click();
+        QCOMPARE(AppGlobals::settings->value("agreement").toString(), QString("5"));
+        QVERIFY(!AppGlobals::updateChecksAllowed);
+        QVERIFY(m_service.waitFor("< updateAgreement"));
+        check->click();
+        QCOMPARE(AppGlobals::settings->value("agreement").toString(), QString("7"));
+    }
+
+    void programPage() {
+        SettingView view;
+        SettingOptProgram* page = view.programPage();
+        QSignalSpy language(&view, &SettingView::onSendChangeLanguage);
+
+        rowButton(page->option("Speed Unit"), "Mi/h")->click();
+        QCOMPARE(AppGlobals::speedUnit, 2);
+        QCOMPARE(AppGlobals::settings->value("speedUnit").toInt(), 2);
+        rowButton(page->option("Speed Unit"), "Km/h")->click();
+        QCOMPARE(AppGlobals::speedUnit, 1);
+
+        TavPrompt::openFolderHook = [this] { return m_dir.filePath("shots"); };
+        page->snapshotRow()->button()->click();
+        QCOMPARE(AppGlobals::snapshotPath, m_dir.filePath("shots"));
+        QCOMPARE(page->snapshotRow()->hint()->text(),
+                 QDir::toNativeSeparators(m_dir.filePath("shots")));
+        TavPrompt::openFolderHook = [] { return QString(); }; // cancelled
+        page->videoRow()->button()->click();
+        QVERIFY(AppGlobals::videoPath.isEmpty());
+        QCOMPARE(page->videoRow()->hint()->text(),
+                 QDir::toNativeSeparators(AppGlobals::defaultVideoFolder()));
+        TavPrompt::openFolderHook = nullptr;
+
+        QVERIFY(SettingOptProgram::keepsSettings());
+        page->option("Keep Settings")->findChild<QPushButton*>()->click();
+        QVERIFY(!SettingOptProgram::keepsSettings());
+
+        // Korean at once, in the dialog too; then back.
+        auto* combo = page->option("Language")->findChild<QComboBox*>();
+        const QString english = button(&view, "bProgram")->text();
+        combo->setCurrentIndex(1);
+        emit combo->activated(1);
+        QCOMPARE(AppGlobals::languageIndex, 1);
+        QCOMPARE(language.count(), 1);
+        QVERIFY(button(&view, "bProgram")->text() != english);
+        QVERIFY(page->snapshotRow()->button()->text() != "Change");
+        combo->setCurrentIndex(0);
+        emit combo->activated(0);
+        QCOMPARE(button(&view, "bProgram")->text(), english);
+        QCOMPARE(page->snapshotRow()->button()->text(), QString("Change"));
+        AppGlobals::snapshotPath.clear();
+    }
+
+    void updatePage_data() {
+        QTest::addColumn<QString>("answer");
+        QTest::addColumn<bool>("offered");
+        QTest::newRow("newer") << "1.0.7" << true;
+        QTest::newRow("latest") << "1.0.6" << false;
+    }
+
+    void updatePage() {
+        QFETCH(QString, answer);
+        QFETCH(bool, offered);
+        QVERIFY(m_service.start({"Version=" + answer}));
+        ServiceSession session(&m_window);
+        SettingView view;
+        SettingOptUpdate* page = view.updatePage();
+        QVERIFY(page->updateNowRow()->hint()->text().isEmpty());
+        QSignalSpy showUpdate(&view, &SettingView::onSendShowUpdate);
+        page->updateNowRow()->button()->click();
+        QTRY_VERIFY(!page->updateNowRow()->hint()->text().startsWith("Asking"));
+        QCOMPARE(showUpdate.count(), offered ? 1 : 0);
+        if (!offered)
+            QCOMPARE(page->updateNowRow()->hint()->text(), QString("This is the latest version."));
+
+        // The update check at start, kept in the agreement.
+        page->updateCheckRow()->findChild<QPushButton*>()->click();
+        QCOMPARE(AppGlobals::settings->value("agreement").toString(), QString("1"));
+        QVERIFY(m_service.waitFor("< updateAgreement"));
+    }
+
+    void crashReportPage() {
+        QVERIFY(m_service.start({"Report=Send_Complete"}));
+        ServiceSession session(&m_window);
+        SettingView view;
+        SettingOptCrashReport* page = view.crashReportPage();
+        page->sendRow()->button()->click();
+        QTRY_COMPARE(m_messages, QStringList{"The transfer is complete."});
+        QCOMPARE(page->sendRow()->hint()->text(), QString("The transfer is complete."));
+        QCOMPARE(m_service.received(), (QStringList{LocalSocket::kHello, "Report"}));
+
+        page->autoReportRow()->findChild<QPushButton*>()->click();
+        QCOMPARE(AppGlobals::settings->value("agreement").toString(), QString("7"));
+        QVERIFY(AppGlobals::autoCrashReports);
+        QVERIFY(m_service.waitFor("< updateAgreement"));
+    }
+};
+
+QTEST_MAIN(TestServiceDialogs)
+#include "test_servicedialogs.moc"
