@@ -19,33 +19,21 @@ private slots:
     void lengths_data() {
         QTest::addColumn<QString>("name");
         QTest::addColumn<QString>("text");
-        QTest::newRow("split channel file") << "20240101_120000_INF_1.mp4"
-                                            << "00:04";
-        QTest::newRow("single file, three cameras") << "20240101_120100_EVT_4.mp4"
-                                                    << "00:03";
-        QTest::newRow("avi") << "20240101_120200_PRK_1.avi"
-                             << "00:03";
-        QTest::newRow("59.999 s is still 59") << "length_59999ms.mp4"
-                                              << "00:59";
-        QTest::newRow("65 min 7 s") << "length_65m07s.mp4"
-                                    << "65:07";
-        QTest::newRow("over 100 min: three digits") << "length_101m05s.mp4"
-                                                    << "101:05";
-        QTest::newRow("sound only") << "audio_only.mp4"
-                                    << "00:02";
+        QTest::newRow("split channel file") << QString("20240101_120000_INF_1.mp4") << "00:04";
+        QTest::newRow("single file, three cameras")
+            << QString("20240101_120100_EVT_4.mp4") << "00:03";
+        QTest::newRow("avi") << QString("20240101_120200_PRK_1.avi") << "00:03";
+        QTest::newRow("59.999 s is still 59") << QString("length_59999ms.mp4") << "00:59";
+        QTest::newRow("65 min 7 s") << QString("length_65m07s.mp4") << "65:07";
+        QTest::newRow("over 100 min: three digits") << QString("length_101m05s.mp4") << "101:05";
+        QTest::newRow("sound only") << QString("audio_only.mp4") << "00:02";
         // Nothing to show for files the reader cannot use.
-        QTest::newRow("zero bytes") << "empty.mp4"
-                                    << "";
-        QTest::newRow("header cut off") << "truncated_moov.mp4"
-                                        << "";
-        QTest::newRow("not a recording") << "not_video.mp4"
-                                         << "";
-        QTest::newRow("folder") << "folder.mp4"
-                                << "";
-        QTest::newRow("missing") << "20240101_235959_INF_1.mp4"
-                                 << "";
-        QTest::newRow("no streams") << "no_streams.mp4"
-                                    << "";
+        QTest::newRow("zero bytes") << QString("empty.mp4") << "";
+        QTest::newRow("header cut off") << QString("truncated_moov.mp4") << "";
+        QTest::newRow("not a recording") << QString("not_video.mp4") << "";
+        QTest::newRow("folder") << QString("folder.mp4") << "";
+        QTest::newRow("missing") << QString("20240101_235959_INF_1.mp4") << "";
+        QTest::newRow("no streams") << QString("no_streams.mp4") << "";
     }
     void lengths() {
         QFETCH(QString, name);

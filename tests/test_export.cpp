@@ -1,11 +1,12 @@
 // Saving the playing recording's cameras through the save dialog, with the real ffmpeg:
-// which files are copied with which arguments, what ffprobe finds in the copies, snapshots
-// and their pixels, a failing or cancelled ffmpeg, and what the user is told.
+// which files are copied with which arguments, what ffprobe finds in the copies, snapshots,
+// their names and pixels, a failing or cancelled ffmpeg, and what the user is told.
 #include "AppGlobals.h"
 #include "FfmpegProgress.h"
 #include "FfmpegRunner.h"
 #include "PlayerInterface.h"
 #include "SaveAsView.h"
+#include "SnapshotWriter.h"
 #include "TavPrompt.h"
 #include "VideoExportPlan.h"
 
@@ -68,6 +69,11 @@ QByteArray contents(const QString& path) {
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
+bool writeFile(const QString& path, const QByteArray& bytes) {
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
+}
+
 } // namespace
 
 class TestExport : public QObject {
@@ -101,6 +107,13 @@ class TestExport : public QObject {
         view->findChild<QPushButton*>("bSave")->click();
         QTRY_VERIFY_WITH_TIMEOUT(m_messages.size() > before || !view->runner()->isRunning(), 60000);
         QTRY_VERIFY_WITH_TIMEOUT(m_messages.size() > before, 60000);
+    }
+
+    // Both kinds of video file, by their buttons.
+    static void containers() {
+        QTest::addColumn<QString>("container");
+        QTest::newRow("mp4") << "rMp4";
+        QTest::newRow("avi") << "rAvi";
     }
 
 private slots:
@@ -183,11 +196,7 @@ private slots:
 
     // Only camera 2 of a separate-file recording, in both kinds of file: one copy each,
     // of that camera's file, the picture copied as it is.
-    void oneCameraOfSeparateFiles_data() {
-        QTest::addColumn<QString>("container");
-        QTest::newRow("mp4") << "rMp4";
-        QTest::newRow("avi") << "rAvi";
-    }
+    void oneCameraOfSeparateFiles_data() { containers(); }
     void oneCameraOfSeparateFiles() {
         QFETCH(QString, container);
         QTemporaryDir out;
@@ -214,11 +223,7 @@ private slots:
 
     // A one-file recording, each camera by its track: "0:v:0", "0:v:1", "0:v:2", with the
     // sound made AAC in each copy.
-    void everyTrackOfOneFile_data() {
-        QTest::addColumn<QString>("container");
-        QTest::newRow("mp4") << "rMp4";
-        QTest::newRow("avi") << "rAvi";
-    }
+    void everyTrackOfOneFile_data() { containers(); }
     void everyTrackOfOneFile() {
         QFETCH(QString, container);
         QTemporaryDir out;
@@ -262,10 +267,7 @@ private slots:
                                 "exit 1");
         qputenv("PATH", bin.path().toUtf8() + ':' + m_path);
         const QString earlier = out.path() + "/20240301_090000_INF_1.mp4";
-        QFile file(earlier);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write("an earlier copy");
-        file.close();
+        QVERIFY(writeFile(earlier, "an earlier copy"));
         SaveAsView* view = open(kSplit, 3, {0});
         save(view, "bSaveVideo", out.path(), "rMp4");
         const QString& message = m_messages.last();
@@ -381,6 +383,43 @@ private slots:
         QVERIFY(two.findChild<QCheckBox*>("item2")->isEnabled());
         QVERIFY(!two.findChild<QCheckBox*>("item3")->isEnabled());
         delete view;
+    }
+
+    // Snapshot names: the position with up to six digits, without its "0.".
+    void snapshotNames_data() {
+        QTest::addColumn<QString>("recording");
+        QTest::addColumn<int>("channel");
+        QTest::addColumn<double>("position");
+        QTest::addColumn<QString>("expected");
+        QTest::newRow("six digits") << "20240301_090000_INF_1.mp4" << 0 << 0.123456789
+                                    << "/p/20240301_090000_INF_1_1_123457.jpg";
+        QTest::newRow("short") << "20240301_092000_USR_4.mp4" << 2 << 0.5
+                               << "/p/20240301_092000_USR_4_3_5.jpg";
+        QTest::newRow("start, no point") << "a.avi" << 1 << 0.0 << "/p/a_2_0.jpg";
+        QTest::newRow("end, no point") << "a.avi" << 0 << 1.0 << "/p/a_1_0.jpg";
+    }
+    void snapshotNames() {
+        QFETCH(QString, recording);
+        QFETCH(int, channel);
+        QFETCH(double, position);
+        QFETCH(QString, expected);
+        QCOMPARE(SnapshotWriter::fileName("/p", recording, channel, position), expected);
+    }
+
+    // A snapshot that cannot be saved leaves the file that was there.
+    void failedSnapshotKeepsTheOldFile() {
+        QTemporaryDir dir;
+        const QString path = dir.filePath("shot.jpg");
+        QVERIFY(writeFile(path, "earlier"));
+        QString error;
+        QVERIFY(!SnapshotWriter::save(QImage(), path, &error));
+        QVERIFY(!error.isEmpty());
+        QCOMPARE(contents(path), QByteArray("earlier"));
+        // A folder that cannot exist (a file is in its way).
+        error.clear();
+        QImage image(64, 36, QImage::Format_RGB32);
+        QVERIFY(!SnapshotWriter::save(image, path + "/inside.jpg", &error));
+        QVERIFY(!error.isEmpty());
     }
 };
 

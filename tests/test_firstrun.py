@@ -52,11 +52,12 @@ def parse_ppm(ppm):
 
 
 class Screen:
-    """One grab of the whole screen as rows of RGB bytes."""
+    """One grab of the whole screen (or a given PPM picture) as rows of RGB bytes."""
 
-    def __init__(self):
-        ppm = subprocess.run(["import", "-window", "root", "-depth", "8", "ppm:-"],
-                             capture_output=True, check=True).stdout
+    def __init__(self, ppm=None):
+        if ppm is None:
+            ppm = subprocess.run(["import", "-window", "root", "-depth", "8", "ppm:-"],
+                                 capture_output=True, check=True).stdout
         self.width, self.height, self.pixels = parse_ppm(ppm)
         self.raw = ppm
 
@@ -154,19 +155,27 @@ def check_chart_and_map(window, name):
     xdotool("mousemove", str(wx + bx + bw // 2), str(wy + by + bh // 2), "click", "1")
     mx, my, mw, mh = entry("MainWindow", "MapView")
     area = (wx + mx, wy + my, mw, mh)
-    first = None
-    deadline = time.time() + 20
-    while time.time() < deadline:
-        first = Screen()
-        if first.share(area, route, step=2) > 0.0005 and first.share(area, CAR, step=2) > 0.0005:
-            break
-        time.sleep(0.5)
+    def route_and_car():
+        grab = Screen()
+        return grab if min(grab.share(area, route, step=2), grab.share(area, CAR, step=2)) \
+            > 0.0005 else None
+    first = wait_until(route_and_car, 20) or Screen()
     check(first.share(area, route, step=2) > 0.0005, "%s: the map shows the route" % name)
     check(first.share(area, CAR, step=2) > 0.0005, "%s: the map shows the car" % name)
     time.sleep(2.5)
     second = Screen()
     second.save(os.path.join(BUILD, "tests", "firstrun-%s-map.png" % name))
     check(second.differs(first, area, step=2) > 0.0005, "%s: the car moves on the map" % name)
+
+
+def wait_until(get, timeout, interval=0.5):
+    """Calls get until it gives something true or the time is up; its last answer."""
+    deadline = time.time() + timeout
+    value = get()
+    while not value and time.time() < deadline:
+        time.sleep(interval)
+        value = get()
+    return value
 
 
 def wait_for_window(title, timeout=20):
@@ -195,15 +204,10 @@ def click_entry(origin, view, name, parent=None):
 
 
 def wait_for_files(folder, pattern, count, timeout=20):
-    deadline = time.time() + timeout
-    found = []
-    while time.time() < deadline:
-        found = sorted(f for f in os.listdir(folder) if re.match(pattern, f)) \
+    def found():
+        return sorted(f for f in os.listdir(folder) if re.match(pattern, f)) \
             if os.path.isdir(folder) else []
-        if len(found) >= count:
-            break
-        time.sleep(0.3)
-    return found
+    return wait_until(lambda: found() if len(found()) >= count else None, timeout, 0.3) or found()
 
 
 def check_export(window, name, home):
@@ -292,9 +296,7 @@ def check_export(window, name, home):
         ppm = subprocess.run(["convert", page_png, "-depth", "8", "ppm:-"],
                              capture_output=True, check=True).stdout
         shutil.copy(page_png, os.path.join(BUILD, "tests", "firstrun-%s-report-page.png" % name))
-        page = Screen.__new__(Screen)
-        page.raw = ppm
-        page.width, page.height, page.pixels = parse_ppm(ppm)
+        page = Screen(ppm)
         whole = (0, 0, page.width, page.height)
         # The page's pictures are compressed: the route's yellow comes out a little duller.
         yellowish = lambda r, g, b: r > 180 and g > 150 and b < 110 and r - b > 100
@@ -353,24 +355,18 @@ def run_case(name, arguments, expectations):
         xdotool("windowfocus", "--sync", dialog[0])
         xdotool("key", "--clearmodifiers", "Return")
 
-        deadline = time.time() + 30
-        window = None
-        while time.time() < deadline and window is None:
-            window = main_window()
-            time.sleep(0.2)
+        window = wait_until(main_window, 30, 0.2)
         check(window is not None, "the main window is shown after the agreement")
         if window is None:
             return
         front, rears = scene_rects(*window)
 
         # The first recording starts by itself; wait for its picture.
-        first = None
-        deadline = time.time() + 30
-        while time.time() < deadline:
-            first = Screen()
-            if all(first.share(front, test) > 0.5 for test in expectations["front"]):
-                break
-            time.sleep(0.5)
+        def showing():
+            grab = Screen()
+            return grab if all(grab.share(front, test) > 0.5
+                               for test in expectations["front"]) else None
+        first = wait_until(showing, 30) or Screen()
         time.sleep(1.2)
         second = Screen()
         second.save(os.path.join(BUILD, "tests", "firstrun-%s.png" % name))

@@ -37,43 +37,29 @@ private slots:
         QTest::addColumn<QString>("start"); // empty: the name has no date
         QTest::addColumn<int>("type");
         QTest::addColumn<int>("channel");
-        const QString t = QStringLiteral("2024-06-12 08:15:02");
-        QTest::newRow("type and channel letters") << "20240612_081502_EF.mp4"
-                                                  << "" << t << 2 << 0;
-        QTest::newRow("letters, lower case") << "20240612_081502_pr.MP4"
-                                             << "" << t << 3 << 1;
-        QTest::newRow("interior camera") << "20240612_081502_NI.mov"
-                                         << "" << t << 1 << 2;
-        QTest::newRow("word, underscores everywhere") << "REC_2024_06_12_08_15_02_F.MP4"
-                                                      << "Event" << t << 1 << 0;
-        QTest::newRow("type from the folder") << "2024_06_12_08_15_02.MP4"
-                                              << "Parking" << t << 3 << -1;
-        QTest::newRow("sequence and channel") << "2024_06_12_08_15_02_0003_R.mov"
-                                              << "" << t << 1 << 1;
-        QTest::newRow("YYYY_MMDD_HHMMSS_SEQ") << "2024_0612_081502_001F.MP4"
-                                              << "" << t << 1 << 0;
-        QTest::newRow("YYYY_MMDD, event letter") << "2024_0612_081502_001ER.MP4"
-                                                 << "" << t << 2 << 1;
-        QTest::newRow("read-only folder") << "2024_0612_081502_002.MP4"
-                                          << "RO" << t << 2 << -1;
-        QTest::newRow("word and dashes") << "NO20240612-081502-000002F.MP4"
-                                         << "" << t << 1 << 0;
-        QTest::newRow("event word, dashes") << "EV20240612-081502-000002R.MP4"
-                                            << "" << t << 2 << 1;
-        QTest::newRow("dashes, manual folder") << "20240612-081502.MOV"
-                                               << "manual" << t << 4 << -1;
-        QTest::newRow("channel digit") << "20240612_081502_2.mp4"
-                                       << "" << t << 1 << 1;
-        QTest::newRow("type word after the sequence") << "20240612_081502_0001_EVT_F.MP4"
-                                                      << "" << t << 2 << 0;
-        QTest::newRow("unknown word, normal folder") << "FILE_20240612_081502.avi"
-                                                     << "Normal" << t << 1 << -1;
-        QTest::newRow("numbered action camera") << "GH010123.MP4"
-                                                << ""
-                                                << "" << 4 << -1;
-        QTest::newRow("numbered, lower case") << "gopr0123.mp4"
-                                              << "Event"
-                                              << "" << 2 << -1;
+        const auto row = [](const char* tag, const char* name, const char* folder, int type,
+                            int channel, bool dated = true) {
+            QTest::newRow(tag) << QString(name) << QString(folder)
+                               << (dated ? QString("2024-06-12 08:15:02") : QString()) << type
+                               << channel;
+        };
+        row("type and channel letters", "20240612_081502_EF.mp4", "", 2, 0);
+        row("letters, lower case", "20240612_081502_pr.MP4", "", 3, 1);
+        row("interior camera", "20240612_081502_NI.mov", "", 1, 2);
+        row("word, underscores everywhere", "REC_2024_06_12_08_15_02_F.MP4", "Event", 1, 0);
+        row("type from the folder", "2024_06_12_08_15_02.MP4", "Parking", 3, -1);
+        row("sequence and channel", "2024_06_12_08_15_02_0003_R.mov", "", 1, 1);
+        row("YYYY_MMDD_HHMMSS_SEQ", "2024_0612_081502_001F.MP4", "", 1, 0);
+        row("YYYY_MMDD, event letter", "2024_0612_081502_001ER.MP4", "", 2, 1);
+        row("read-only folder", "2024_0612_081502_002.MP4", "RO", 2, -1);
+        row("word and dashes", "NO20240612-081502-000002F.MP4", "", 1, 0);
+        row("event word, dashes", "EV20240612-081502-000002R.MP4", "", 2, 1);
+        row("dashes, manual folder", "20240612-081502.MOV", "manual", 4, -1);
+        row("channel digit", "20240612_081502_2.mp4", "", 1, 1);
+        row("type word after the sequence", "20240612_081502_0001_EVT_F.MP4", "", 2, 0);
+        row("unknown word, normal folder", "FILE_20240612_081502.avi", "Normal", 1, -1);
+        row("numbered action camera", "GH010123.MP4", "", 4, -1, false);
+        row("numbered, lower case", "gopr0123.mp4", "Event", 2, -1, false);
     }
     void layouts() {
         QFETCH(QString, name);

@@ -189,35 +189,22 @@ private slots:
         QTest::addColumn<QString>("kind");
         QTest::addColumn<double>("speedFactor");
         QTest::addColumn<int>("positions");
-        QTest::newRow("GPMF GPS5") << "gpmf_gps5.mp4"
-                                   << ""
-                                   << "GPMF" << 3.6 << 40;
-        QTest::newRow("GPMF GPS9") << "gpmf_gps9.mp4"
-                                   << ""
-                                   << "GPMF" << 3.6 << 40;
-        QTest::newRow("freeGPS floats") << "freegps_float.mp4"
-                                        << ""
-                                        << "freeGPS" << 1.0 << 3;
-        QTest::newRow("freeGPS integers") << "freegps_integer.mp4"
-                                          << ""
-                                          << "freeGPS" << 1.0 << 3;
-        QTest::newRow("freeGPS NMEA") << "freegps_nmea.mp4"
-                                      << ""
-                                      << "freeGPS" << 1.0 << 3;
-        QTest::newRow("NMEA text track") << "nmea_text.mov"
-                                         << ""
-                                         << "NMEA text" << 1.0 << 3;
+        const auto row = [](const char* tag, const char* file, const char* oracleFile,
+                            const char* kind, double speedFactor, int positions) {
+            QTest::newRow(tag) << QString(file) << QString(oracleFile) << QString(kind)
+                               << speedFactor << positions;
+        };
+        row("GPMF GPS5", "gpmf_gps5.mp4", "", "GPMF", 3.6, 40);
+        row("GPMF GPS9", "gpmf_gps9.mp4", "", "GPMF", 3.6, 40);
+        row("freeGPS floats", "freegps_float.mp4", "", "freeGPS", 1.0, 3);
+        row("freeGPS integers", "freegps_integer.mp4", "", "freeGPS", 1.0, 3);
+        row("freeGPS NMEA", "freegps_nmea.mp4", "", "freeGPS", 1.0, 3);
+        row("NMEA text track", "nmea_text.mov", "", "NMEA text", 1.0, 3);
         // ExifTool reads NMEA only from QuickTime text tracks; the same sentences in a
         // subtitle track are compared with its reading of the text track.
-        QTest::newRow("NMEA subtitle track") << "nmea_subtitle.mp4"
-                                             << "nmea_text.mov"
-                                             << "NMEA text" << 1.0 << 3;
-        QTest::newRow("NMEA udat box") << "nmea_udat.mp4"
-                                       << ""
-                                       << "NMEA box" << 1.0 << 3;
-        QTest::newRow("NMEA free/gps box") << "nmea_free.mp4"
-                                           << ""
-                                           << "NMEA box" << 1.0 << 3;
+        row("NMEA subtitle track", "nmea_subtitle.mp4", "nmea_text.mov", "NMEA text", 1.0, 3);
+        row("NMEA udat box", "nmea_udat.mp4", "", "NMEA box", 1.0, 3);
+        row("NMEA free/gps box", "nmea_free.mp4", "", "NMEA box", 1.0, 3);
     }
     void agreesWithExifTool() {
         QFETCH(QString, file);

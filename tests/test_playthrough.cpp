@@ -102,11 +102,20 @@ class TestPlaythrough : public QObject {
     QTemporaryDir m_dir;
     MainWindow* m_window = nullptr;
     TavFileListItem* m_list = nullptr;
+    PlayScreenWindow* m_main = nullptr; // the main scene and the two rear scenes
+    SubPlayerWindow* m_rear1 = nullptr;
+    SubPlayerWindow* m_rear2 = nullptr;
 
     void waitForPicture() {
         QTRY_VERIFY_WITH_TIMEOUT(PlayerInterface::playStatus == PlayerInterface::PlayRunning &&
                                      VLCComponent::playerState == VLCComponent::Playing,
                                  15000);
+    }
+    // Each camera in its own scene, as the user sees it: the front red, the rears green, blue.
+    void waitForEachCameraInItsScene() {
+        QTRY_VERIFY_WITH_TIMEOUT(isRed(screenColour(m_main)), 3000);
+        QTRY_VERIFY_WITH_TIMEOUT(isGreen(screenColour(m_rear1)), 3000);
+        QTRY_VERIFY_WITH_TIMEOUT(isBlue(screenColour(m_rear2)), 3000);
     }
 
 private slots:
@@ -122,7 +131,10 @@ private slots:
         m_window->show();
         QVERIFY(QTest::qWaitForWindowExposed(m_window));
         m_list = m_window->findChild<TavFileListItem*>();
-        QVERIFY(m_list);
+        m_main = m_window->findChild<PlayScreenWindow*>();
+        m_rear1 = m_window->findChild<SubPlayerWindow*>("subPlayerWindow1");
+        m_rear2 = m_window->findChild<SubPlayerWindow*>("subPlayerWindow2");
+        QVERIFY(m_list && m_main && m_rear1 && m_rear2);
     }
 
     void cleanupTestCase() { delete m_window; }
@@ -141,49 +153,38 @@ private slots:
         waitForPicture();
         QCOMPARE(m_window->findChild<TopBar*>()->fileName(), QString("20240301_090000_INF_1.mp4"));
 
-        // Each camera in its own scene, as the user sees it.
-        auto* main = m_window->findChild<PlayScreenWindow*>();
-        auto* rear1 = m_window->findChild<SubPlayerWindow*>("subPlayerWindow1");
-        auto* rear2 = m_window->findChild<SubPlayerWindow*>("subPlayerWindow2");
-        QTRY_VERIFY(rear2->isVisible());
-        QTRY_VERIFY_WITH_TIMEOUT(isRed(screenColour(main)), 3000);
-        QTRY_VERIFY_WITH_TIMEOUT(isGreen(screenColour(rear1)), 3000);
-        QTRY_VERIFY_WITH_TIMEOUT(isBlue(screenColour(rear2)), 3000);
+        QTRY_VERIFY(m_rear2->isVisible());
+        waitForEachCameraInItsScene();
     }
 
     void rearCameraSwapsIntoTheMainScene() {
-        auto* main = m_window->findChild<PlayScreenWindow*>();
-        auto* rear1 = m_window->findChild<SubPlayerWindow*>("subPlayerWindow1");
-        auto* arrow = rear1->findChild<QPushButton*>("arrow");
+        auto* arrow = m_rear1->findChild<QPushButton*>("arrow");
         QVERIFY(arrow && arrow->isVisible());
         QTest::mouseClick(arrow, Qt::LeftButton);
-        QTRY_VERIFY_WITH_TIMEOUT(isGreen(screenColour(main)), 3000);
-        QTRY_VERIFY_WITH_TIMEOUT(isRed(screenColour(rear1)), 3000);
-        QCOMPARE(main->id(), 1);
+        QTRY_VERIFY_WITH_TIMEOUT(isGreen(screenColour(m_main)), 3000);
+        QTRY_VERIFY_WITH_TIMEOUT(isRed(screenColour(m_rear1)), 3000);
+        QCOMPARE(m_main->id(), 1);
         // The main scene still zooms, whichever camera it shows.
-        QVERIFY(main->scene()->parentWidget() == main);
+        QVERIFY(m_main->scene()->parentWidget() == m_main);
         QTest::mouseClick(arrow, Qt::LeftButton);
-        QTRY_VERIFY_WITH_TIMEOUT(isRed(screenColour(main)), 3000);
-        QTRY_VERIFY_WITH_TIMEOUT(isGreen(screenColour(rear1)), 3000);
-        QCOMPARE(main->id(), 0);
+        QTRY_VERIFY_WITH_TIMEOUT(isRed(screenColour(m_main)), 3000);
+        QTRY_VERIFY_WITH_TIMEOUT(isGreen(screenColour(m_rear1)), 3000);
+        QCOMPARE(m_main->id(), 0);
     }
 
     void flipMirrorsOneScene() {
         // Paused, so every player has to come back to the paused picture after a flip.
-        auto* main = m_window->findChild<PlayScreenWindow*>();
-        auto* rear1 = m_window->findChild<SubPlayerWindow*>("subPlayerWindow1");
-        auto* rear2 = m_window->findChild<SubPlayerWindow*>("subPlayerWindow2");
         m_window->player()->onPause();
         QCOMPARE(PlayerInterface::playStatus, int(PlayerInterface::PlayPaused));
-        QTRY_COMPARE_WITH_TIMEOUT(frameNumberSide(rear1, false), 1, 3000);
-        QCOMPARE(frameNumberSide(main, true), 1);
+        QTRY_COMPARE_WITH_TIMEOUT(frameNumberSide(m_rear1, false), 1, 3000);
+        QCOMPARE(frameNumberSide(m_main, true), 1);
 
-        QTest::mouseClick(rear1->findChild<QPushButton*>("bFlip"), Qt::LeftButton);
-        QTRY_COMPARE_WITH_TIMEOUT(frameNumberSide(rear1, false), -1, 5000);
-        QVERIFY(isGreen(screenColour(rear1)));
-        QVERIFY(rear1->findChild<QPushButton*>("bFlip")->isChecked());
-        QCOMPARE(frameNumberSide(main, true), 1);
-        QCOMPARE(frameNumberSide(rear2, false), 1);
+        QTest::mouseClick(m_rear1->findChild<QPushButton*>("bFlip"), Qt::LeftButton);
+        QTRY_COMPARE_WITH_TIMEOUT(frameNumberSide(m_rear1, false), -1, 5000);
+        QVERIFY(isGreen(screenColour(m_rear1)));
+        QVERIFY(m_rear1->findChild<QPushButton*>("bFlip")->isChecked());
+        QCOMPARE(frameNumberSide(m_main, true), 1);
+        QCOMPARE(frameNumberSide(m_rear2, false), 1);
         QCOMPARE(PlayerInterface::playStatus, int(PlayerInterface::PlayPaused));
         // Still paused: the mirrored player comes to rest (it may play a moment to draw its
         // first picture) and stays there.
@@ -204,8 +205,8 @@ private slots:
         QVERIFY(panelFlip &&
                 panelFlip->parentWidget() == m_window->findChild<QWidget*>("ControlView"));
         QTest::mouseClick(panelFlip, Qt::LeftButton);
-        QTRY_COMPARE_WITH_TIMEOUT(frameNumberSide(main, true), -1, 5000);
-        QVERIFY(isRed(screenColour(main)));
+        QTRY_COMPARE_WITH_TIMEOUT(frameNumberSide(m_main, true), -1, 5000);
+        QVERIFY(isRed(screenColour(m_main)));
 
         // Capture offers the picture of every camera as it is shown, mirrored or not, and
         // saves the chosen ones.
@@ -266,8 +267,8 @@ private slots:
         QCOMPARE(PlayerInterface::playStatus, int(PlayerInterface::PlayPaused));
 
         // Back as recorded, and playing on in step.
-        QTest::mouseClick(rear1->findChild<QPushButton*>("bFlip"), Qt::LeftButton);
-        QTRY_COMPARE_WITH_TIMEOUT(frameNumberSide(rear1, false), 1, 5000);
+        QTest::mouseClick(m_rear1->findChild<QPushButton*>("bFlip"), Qt::LeftButton);
+        QTRY_COMPARE_WITH_TIMEOUT(frameNumberSide(m_rear1, false), 1, 5000);
         m_window->player()->onPlay();
         QCOMPARE(PlayerInterface::playStatus, int(PlayerInterface::PlayRunning));
         QTRY_VERIFY_WITH_TIMEOUT(engine->GetChannelTime(1) > rearTime, 3000);
@@ -275,9 +276,9 @@ private slots:
             std::abs(engine->GetChannelTime(1) - engine->GetCurrentPos()) < 400, 3000);
 
         // While playing: the mirrored camera joins the others and plays on with them.
-        QTest::mouseClick(rear2->findChild<QPushButton*>("bFlip"), Qt::LeftButton);
-        QTRY_COMPARE_WITH_TIMEOUT(frameNumberSide(rear2, false), -1, 3000);
-        QVERIFY(isBlue(screenColour(rear2)));
+        QTest::mouseClick(m_rear2->findChild<QPushButton*>("bFlip"), Qt::LeftButton);
+        QTRY_COMPARE_WITH_TIMEOUT(frameNumberSide(m_rear2, false), -1, 3000);
+        QVERIFY(isBlue(screenColour(m_rear2)));
         QCOMPARE(PlayerInterface::playStatus, int(PlayerInterface::PlayRunning));
         QTRY_VERIFY_WITH_TIMEOUT(
             std::abs(engine->GetChannelTime(2) - engine->GetCurrentPos()) < 400, 3000);
@@ -333,11 +334,9 @@ private slots:
         waitForPicture();
         QCOMPARE(VLCComponent::channelCount, 2);
         // The cameras mirrored in the last recording start this one as recorded.
-        QTRY_COMPARE_WITH_TIMEOUT(frameNumberSide(m_window->findChild<PlayScreenWindow*>(), true),
-                                  1, 3000);
-        auto* rear1 = m_window->findChild<SubPlayerWindow*>("subPlayerWindow1");
-        QTRY_COMPARE_WITH_TIMEOUT(frameNumberSide(rear1, false), 1, 3000);
-        QVERIFY(!rear1->findChild<QPushButton*>("bFlip")->isChecked());
+        QTRY_COMPARE_WITH_TIMEOUT(frameNumberSide(m_main, true), 1, 3000);
+        QTRY_COMPARE_WITH_TIMEOUT(frameNumberSide(m_rear1, false), 1, 3000);
+        QVERIFY(!m_rear1->findChild<QPushButton*>("bFlip")->isChecked());
     }
 
     void deletingThePlayingRowStopsIt() {
@@ -368,24 +367,19 @@ private slots:
         QTRY_VERIFY_WITH_TIMEOUT(PlayerInterface::currentFile.endsWith("USR_4.mp4") &&
                                      VLCComponent::playerState == VLCComponent::Playing,
                                  15000);
-        auto* main = m_window->findChild<PlayScreenWindow*>();
-        auto* rear1 = m_window->findChild<SubPlayerWindow*>("subPlayerWindow1");
-        auto* rear2 = m_window->findChild<SubPlayerWindow*>("subPlayerWindow2");
-        QTRY_VERIFY_WITH_TIMEOUT(isRed(screenColour(main)), 3000);
-        QTRY_VERIFY_WITH_TIMEOUT(isGreen(screenColour(rear1)), 3000);
-        QTRY_VERIFY_WITH_TIMEOUT(isBlue(screenColour(rear2)), 3000);
+        waitForEachCameraInItsScene();
         // The picture stays in the scenes while it plays on.
         QTest::qWait(1000);
-        QVERIFY(isGreen(screenColour(rear1)));
-        QVERIFY(isRed(screenColour(main)));
+        QVERIFY(isGreen(screenColour(m_rear1)));
+        QVERIFY(isRed(screenColour(m_main)));
 
         // A mirrored rear track still shows its own track, in its own scene.
         m_window->player()->onPause();
-        QTest::mouseClick(rear2->findChild<QPushButton*>("bFlip"), Qt::LeftButton);
-        QTRY_COMPARE_WITH_TIMEOUT(frameNumberSide(rear2, false), -1, 5000);
-        QVERIFY(isBlue(screenColour(rear2)));
-        QVERIFY(isGreen(screenColour(rear1)));
-        QCOMPARE(frameNumberSide(rear1, false), 1);
+        QTest::mouseClick(m_rear2->findChild<QPushButton*>("bFlip"), Qt::LeftButton);
+        QTRY_COMPARE_WITH_TIMEOUT(frameNumberSide(m_rear2, false), -1, 5000);
+        QVERIFY(isBlue(screenColour(m_rear2)));
+        QVERIFY(isGreen(screenColour(m_rear1)));
+        QCOMPARE(frameNumberSide(m_rear1, false), 1);
     }
 };
 

@@ -134,9 +134,6 @@ Bytes integerBlock() {
     Bytes block = freeGpsHead();
     std::memcpy(block.data() + 16, "IQS_A7", 6);
     freeGpsClock(block);
-    putLe32(block, 76, 374853000);
-    putLe32(block, 80, 1271162000);
-    putLe32(block, 84, 1000); // 10 m/s
     return block;
 }
 Bytes nmeaBlock() {
@@ -251,9 +248,7 @@ private slots:
         const Bytes bytes = gpmfSample(3, "zXY");
         QVERIFY(kdx::GpmfParser::parse(bytes.data(), bytes.size(), sample));
         QCOMPARE(int(sample.positions.size()), 2);
-        QCOMPARE(sample.positions[0].latitude, 37.4853);
-        QCOMPARE(sample.positions[1].longitude, -127.1164);
-        QCOMPARE(sample.positions[0].speedKmh, 10.0 * 3.6); // 2-D speed, m/s
+        QCOMPARE(sample.positions[1].longitude, -127.1164); // signed, unlike the files'
         QCOMPARE(sample.positions[0].gpsFlags & 3u, 2u);
         QCOMPARE(int(sample.accelerations.size()), 2);
         // Stored -Z, X, Y: 9.81 m/s² on -Z, -1.96 on X.
@@ -292,7 +287,9 @@ private slots:
 
     // --- freeGPS ---
 
-    void freeGpsLayouts() {
+    // The blocks compared with ExifTool are all north and east: here south and west (the
+    // layouts share the hemisphere letters), and the NMEA block's satellites.
+    void freeGpsHemispheresAndSatellites() {
         TelemetryReading reading;
         Bytes block = floatBlock();
         QCOMPARE(kdx::FreeGpsBlock::layoutOf(block.data(), block.size()),
@@ -300,19 +297,8 @@ private slots:
         QVERIFY(kdx::FreeGpsBlock::parse(block.data(), block.size(), reading));
         QCOMPARE(reading.latitude, -(37 + (double(3729.118f) - 3700) / 60));
         QCOMPARE(reading.longitude, -(127 + (double(12706.972f) - 12700) / 60));
-        QCOMPARE(reading.speedKmh, 10 * 1.852);
-
-        block = integerBlock();
-        QVERIFY(kdx::FreeGpsBlock::parse(block.data(), block.size(), reading));
-        QCOMPARE(reading.latitude, -37.4853);
-        QCOMPARE(reading.speedKmh, 10 * 3.6);
-
         block = nmeaBlock();
         QVERIFY(kdx::FreeGpsBlock::parse(block.data(), block.size(), reading));
-        QCOMPARE(reading.latitude, 37 + 29.118 / 60);
-        QCOMPARE(reading.speedKmh, 10 * 1.852);
-        QCOMPARE(reading.gSensor[0], 1.0f);
-        QCOMPARE(reading.gSensor[1], -0.5f);
         QCOMPARE(reading.gpsFlags >> 2, 3u); // nine satellites
     }
 
@@ -363,8 +349,6 @@ private slots:
         QCOMPARE(frames[10].latitude, 20.0f);
         QCOMPARE(frames[19].latitude, 20.0f); // held as long as the one before lasted
         QVERIFY(!hasPosition(frames[20]));    // and no longer
-        for (int k = 0; k < 25; ++k)
-            QCOMPARE(frames[std::size_t(k)].timeMs, qint64(k) * 100);
     }
 
     void lostFixIsNotShownAsTheLastPosition() {

@@ -22,50 +22,45 @@ class TestTelemetrySample : public QObject {
     Q_OBJECT
 
 private slots:
-    void readingWithFix() {
-        KDXTextFrame frame;
-        QCOMPARE(parse("G=+0.012,-0.034,+0.998 GPS=37.485312,127.116204 SPD=42.5 FIX=2,3", frame),
-                 TelemetrySampleParser::Reading);
-        QCOMPARE(frame.gSensorX, 0.012f);
-        QCOMPARE(frame.gSensorY, -0.034f);
-        QCOMPARE(frame.gSensorZ, 0.998f);
-        QCOMPARE(frame.latitude, 37.485312f);
-        QCOMPARE(frame.longitude, 127.116204f);
-        QCOMPARE(frame.speed, 42.5f);
-        QCOMPARE(frame.gpsFlags, 2u | (3u << 2));
-        QCOMPARE(frame.fields, KDX_FIELD_GSENSOR | KDX_FIELD_POSITION | KDX_FIELD_SPEED);
+    // Fields in any order, blanks and a line end around them, unknown fields skipped; FIX
+    // left out is a 3-D fix with a position and none without; the ends of every range.
+    void readings_data() {
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<QVector<float>>("values"); // G x, y, z, latitude, longitude, speed
+        QTest::addColumn<uint>("flags");
+        QTest::addColumn<uint>("fields");
+        const uint all = KDX_FIELD_GSENSOR | KDX_FIELD_POSITION | KDX_FIELD_SPEED;
+        QTest::newRow("with fix")
+            << QByteArray("G=+0.012,-0.034,+0.998 GPS=37.485312,127.116204 SPD=42.5 FIX=2,3")
+            << QVector<float>{0.012f, -0.034f, 0.998f, 37.485312f, 127.116204f, 42.5f}
+            << (2u | (3u << 2)) << all;
+        QTest::newRow("without fix")
+            << QByteArray("G=-1.250,+0.300,+1.020 GPS=- FIX=0,0")
+            << QVector<float>{-1.25f, 0.3f, 1.02f, 0, 0, 0} << 0u << uint(KDX_FIELD_GSENSOR);
+        QTest::newRow("defaults, order, blanks, unknown fields")
+            << QByteArray("  GPS=-33.9,18.4\tALT=35.2  G=0,0,1 HDG=271 \r\n")
+            << QVector<float>{0, 0, 1, -33.9f, 18.4f, 0} << 2u
+            << uint(KDX_FIELD_GSENSOR | KDX_FIELD_POSITION);
+        QTest::newRow("no position, no fix")
+            << QByteArray("GPS=- G=0,0,1") << QVector<float>{0, 0, 1, 0, 0, 0} << 0u
+            << uint(KDX_FIELD_GSENSOR);
+        QTest::newRow("lower ends") << QByteArray("G=-64,64,0 GPS=-90,180 SPD=1000")
+                                    << QVector<float>{-64, 64, 0, -90, 180, 1000} << 2u << all;
+        QTest::newRow("upper ends") << QByteArray("G=0,0,0 GPS=90.000000000,-180 SPD=0 FIX=3,3")
+                                    << QVector<float>{0, 0, 0, 90, -180, 0} << 15u << all;
     }
-
-    void readingWithoutFix() {
+    void readings() {
+        QFETCH(QByteArray, text);
+        QFETCH(QVector<float>, values);
+        QFETCH(uint, flags);
+        QFETCH(uint, fields);
         KDXTextFrame frame;
-        QCOMPARE(parse("G=-1.250,+0.300,+1.020 GPS=- FIX=0,0", frame),
-                 TelemetrySampleParser::Reading);
-        QCOMPARE(frame.gSensorX, -1.25f);
-        QCOMPARE(frame.latitude, 0.0f);
-        QCOMPARE(frame.longitude, 0.0f);
-        QCOMPARE(frame.speed, 0.0f);
-        QCOMPARE(frame.gpsFlags, 0u);
-        QCOMPARE(frame.fields, KDX_FIELD_GSENSOR);
-    }
-
-    void defaultsOrderBlanksAndUnknownFields() {
-        KDXTextFrame frame;
-        // FIX left out: 3-D fix with a position, none without. Fields in any order, blanks
-        // and a line end around them, unknown fields skipped.
-        QCOMPARE(parse("  GPS=-33.9,18.4\tALT=35.2  G=0,0,1 HDG=271 \r\n", frame),
-                 TelemetrySampleParser::Reading);
-        QCOMPARE(frame.gpsFlags, 2u);
-        QCOMPARE(frame.latitude, -33.9f);
-        QCOMPARE(frame.longitude, 18.4f);
-        QCOMPARE(frame.fields, KDX_FIELD_GSENSOR | KDX_FIELD_POSITION);
-        QCOMPARE(parse("GPS=- G=0,0,1", frame), TelemetrySampleParser::Reading);
-        QCOMPARE(frame.gpsFlags, 0u);
-        // The ends of every range are still readings.
-        QCOMPARE(parse("G=-64,64,0 GPS=-90,180 SPD=1000", frame), TelemetrySampleParser::Reading);
-        QCOMPARE(frame.longitude, 180.0f);
-        QCOMPARE(parse("G=0,0,0 GPS=90.000000000,-180 SPD=0 FIX=3,3", frame),
-                 TelemetrySampleParser::Reading);
-        QCOMPARE(frame.gpsFlags, 15u);
+        QCOMPARE(parse(text, frame), TelemetrySampleParser::Reading);
+        QCOMPARE((QVector<float>{frame.gSensorX, frame.gSensorY, frame.gSensorZ, frame.latitude,
+                                 frame.longitude, frame.speed}),
+                 values);
+        QCOMPARE(uint(frame.gpsFlags), flags);
+        QCOMPARE(uint(frame.fields), fields);
     }
 
     void malformed_data() {

@@ -172,19 +172,7 @@ private slots:
         QVERIFY(hidden->isEnabled());
     }
 
-    void panelStyleFollowsTheModelForm() {
-        UiItem item;
-        item.image[UiItem::Default] = "left.svg";
-        item.color[UiItem::Default] = "#000000";
-        QCOMPARE(UiApplier::panelStyleSheet(item, "/img/"),
-                 QString("QWidget{border: none; border-image: url(\"/img/left.svg\") 0 0 0 0 full "
-                         "full; background: #000000;}"));
-    }
-
     void textsPassThroughTheViewsTranslation() {
-        QCOMPARE(UiDescription::translationContext("MainWindow"), QByteArray("ui_mainWindow"));
-        QCOMPARE(UiDescription::translationContext("updateView"), QByteArray("ui_updateView"));
-
         // The real Korean translation of the agreement dialog, as built into Resources.
         QTranslator korean;
         QVERIFY(korean.load(QCoreApplication::applicationDirPath() +
