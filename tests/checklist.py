@@ -1,6 +1,7 @@
 """What the whole-program tests (run under a private X server) share: checks that report
 as they go and are counted at the end, and xdotool for the keyboard and the mouse."""
 import subprocess
+import time
 
 failures = []
 
@@ -19,3 +20,13 @@ def xdotool(*args, timeout=30):
     except subprocess.TimeoutExpired:
         return []
     return result.stdout.split()
+
+
+def wait_until(get, timeout=30, interval=0.2):
+    """Calls get until it gives something true or the time is up; its last answer."""
+    deadline = time.time() + timeout
+    value = get()
+    while not value and time.time() < deadline:
+        time.sleep(interval)
+        value = get()
+    return value

@@ -1,13 +1,10 @@
-// The play control panel driven through its own widgets: time texts, play/pause and steps
-// by play status, the step unit, speeds, sound and volume, the position slider, blocked
-// input, and the slider following a real recording played by the coordinator.
+// The play control panel driven through its own widgets: what each asks for by play status.
 #include "AppGlobals.h"
 #include "PlayControlView.h"
 #include "PlayerInterface.h"
 #include "TavPlayButton.h"
 #include "TavPlaySlider.h"
 #include "TavVolumeProgressBar.h"
-#include "VLCComponent.h"
 
 #include <QLabel>
 #include <QPushButton>
@@ -17,8 +14,7 @@
 
 namespace {
 
-const QString kMedia = QStringLiteral(PLAYBACK_MEDIA);
-const QString kRecording = kMedia + "/20240301_090000_INF_1.mp4"; // three channels, 5 s
+const QString kRecording = QStringLiteral("/cards/20240301_090000_INF_1.mp4");
 
 void mouse(QWidget* widget, QEvent::Type type, const QPoint& at) {
     const Qt::MouseButtons held =
@@ -405,86 +401,6 @@ private slots:
         m_panel->onBlockEvent(false);
         click("bPlay");
         QCOMPARE(pauseSpy.count(), 1);
-    }
-
-    void sliderFollowsARealRecording() {
-        QVERIFY(QFile::exists(kRecording));
-        QWidget window;
-        window.resize(990, 300);
-        QWidget* video[3];
-        for (int i = 0; i < 3; ++i) {
-            video[i] = new QWidget(&window);
-            video[i]->setGeometry(i * 330, 0, 320, 180);
-            video[i]->setAttribute(Qt::WA_NativeWindow);
-        }
-        auto* panel = new PlayControlView(&window);
-        panel->setGeometry(0, 190, 990, 96);
-        window.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&window));
-        auto* player = new PlayerInterface(&window);
-        player->setMainScreen(video[0]);
-        player->setSub1Screen(video[1]);
-        player->setSub2Screen(video[2]);
-
-        // The routes the main window makes between the two.
-        connect(panel, &PlayControlView::onSendPlay, player, &PlayerInterface::onPlay);
-        connect(panel, &PlayControlView::onClickedPause, player, &PlayerInterface::onPause);
-        connect(panel, &PlayControlView::onChangePlayPosition, player,
-                &PlayerInterface::onPlayPosMove);
-        connect(panel, &PlayControlView::onSendStopTimer, player, &PlayerInterface::onStopTimer);
-        connect(player, &PlayerInterface::onSetPlayData, panel, &PlayControlView::onSetPlayData);
-        connect(player, &PlayerInterface::onTimeout_500ms, panel, &PlayControlView::onUpdateSlider);
-        connect(player, &PlayerInterface::onUpdateTimeNow, panel, &PlayControlView::onUpdateSlider);
-        connect(player, &PlayerInterface::onSendClear, panel, &PlayControlView::onSendClear);
-        connect(player, &PlayerInterface::onSendSetPlayButton, panel,
-                &PlayControlView::onSetPlayButton);
-        connect(player, &PlayerInterface::onSendPlayNextFile, panel,
-                &PlayControlView::onRecvPlayNextFile);
-
-        auto* bar = panel->findChild<TavPlaySlider*>("playBar");
-        auto* button = panel->findChild<TavPlayButton*>("bPlay");
-        auto* playTime = panel->findChild<QLabel*>("playTime");
-        QSignalSpy started(player, &PlayerInterface::onSendSetPlayButton);
-        QSignalSpy next(panel, &PlayControlView::onCallNextFile);
-        PlayerInterface::currentFile = kRecording;
-        player->checkFileReady();
-        QVERIFY(started.wait(15000));
-        QVERIFY(button->isPlaying());
-        QVERIFY(PlayerInterface::totalTime > 4000);
-        QCOMPARE(bar->maximum(), int(PlayerInterface::totalTime));
-        QCOMPARE(panel->findChild<QLabel*>("totalTime")->text(),
-                 QString("00:%1").arg(int(PlayerInterface::totalTime) / 1000, 2, 10, QChar('0')));
-
-        QTRY_VERIFY_WITH_TIMEOUT(bar->value() >= 1000, 4000);
-        QVERIFY(playTime->text() >= QString("00:01"));
-
-        // Paused, the slider stands still.
-        QTest::mouseClick(button, Qt::LeftButton);
-        QCOMPARE(PlayerInterface::playStatus, int(PlayerInterface::PlayPaused));
-        QVERIFY(!button->isPlaying());
-        const int pausedAt = bar->value();
-        QTest::qWait(1200);
-        QCOMPARE(bar->value(), pausedAt);
-
-        // Released at 70%, the player seeks there.
-        mouse(bar, QEvent::MouseButtonPress, at(bar, 0.7));
-        mouse(bar, QEvent::MouseButtonRelease, at(bar, 0.7));
-        const int sought = bar->value();
-        QVERIFY(qAbs(sought - 0.7 * bar->maximum()) < 200);
-        QCOMPARE(PlayerInterface::currentTime, double(sought));
-        QTRY_VERIFY_WITH_TIMEOUT(qAbs(player->engine()->GetCurrentPos() - sought) < 500, 3000);
-
-        // Played on to the end: cleared, and the list is asked for the next recording.
-        QTest::mouseClick(button, Qt::LeftButton);
-        QCOMPARE(PlayerInterface::playStatus, int(PlayerInterface::PlayRunning));
-        QTRY_VERIFY_WITH_TIMEOUT(bar->value() > sought, 3000);
-        QVERIFY(next.wait(8000));
-        QCOMPARE(playTime->text(), QString("00:00"));
-        QCOMPARE(bar->maximum(), 0);
-        QVERIFY(!button->isPlaying());
-
-        QTRY_COMPARE_WITH_TIMEOUT(VLCComponent::playerState, int(VLCComponent::Stopped), 10000);
-        delete player;
     }
 };
 

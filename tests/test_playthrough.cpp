@@ -11,6 +11,8 @@
 #include "SaveAsView.h"
 #include "SubPlayerWindow.h"
 #include "TavFileListItem.h"
+#include "TavPlayButton.h"
+#include "TavPlaySlider.h"
 #include "TavPrompt.h"
 #include "TopBar.h"
 #include "VLCComponent.h"
@@ -18,6 +20,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QGuiApplication>
+#include <QLabel>
 #include <QLineEdit>
 #include <QProcess>
 #include <QPushButton>
@@ -307,6 +310,32 @@ private slots:
         m_window->onBlockEvent(false);
     }
 
+    // The play control panel follows the player through the main window's own routes: the
+    // slider runs, stands still while paused, and a release on it seeks there.
+    void panelFollowsPlayback() {
+        auto* bar = m_window->findChild<TavPlaySlider*>("playBar");
+        auto* button = m_window->findChild<TavPlayButton*>("bPlay");
+        QVERIFY(bar && button && button->isPlaying());
+        QCOMPARE(bar->maximum(), int(PlayerInterface::totalTime));
+        QCOMPARE(m_window->findChild<QLabel*>("totalTime")->text(),
+                 QString("00:%1").arg(int(PlayerInterface::totalTime) / 1000, 2, 10, QChar('0')));
+        QTRY_VERIFY_WITH_TIMEOUT(bar->value() >= 1000, 4000);
+        QVERIFY(m_window->findChild<QLabel*>("playTime")->text() >= QString("00:01"));
+        QTest::mouseClick(button, Qt::LeftButton);
+        QCOMPARE(PlayerInterface::playStatus, int(PlayerInterface::PlayPaused));
+        QVERIFY(!button->isPlaying());
+        const int pausedAt = bar->value();
+        QTest::qWait(1200);
+        QCOMPARE(bar->value(), pausedAt);
+        QTest::mouseClick(bar, Qt::LeftButton, {},
+                          QPoint(int(0.7 * (bar->width() - 1)), bar->height() / 2));
+        const int sought = bar->value();
+        QVERIFY(qAbs(sought - 0.7 * bar->maximum()) < 200);
+        QCOMPARE(PlayerInterface::currentTime, double(sought));
+        VLCComponent* engine = m_window->player()->engine();
+        QTRY_VERIFY_WITH_TIMEOUT(qAbs(engine->GetCurrentPos() - sought) < 500, 3000);
+    }
+
     void stepBackAtTheVeryStartLeavesTheWindowUsable() {
         // Back past the start of the first recording: there is no previous one. The player
         // stops at the logo, says so, and takes input again.
@@ -344,6 +373,9 @@ private slots:
         m_list->onDeleteCurrentFile();
         QTRY_COMPARE_WITH_TIMEOUT(VLCComponent::playerState, int(VLCComponent::Stopped), 10000);
         QVERIFY(PlayerInterface::playStatus != PlayerInterface::PlayRunning);
+        // The panel is cleared.
+        QCOMPARE(m_window->findChild<QLabel*>("playTime")->text(), QString("00:00"));
+        QCOMPARE(m_window->findChild<TavPlaySlider*>("playBar")->maximum(), 0);
         QCOMPARE(TavFileListItem::records.size(), rows - 1);
         for (const auto& record : TavFileListItem::records)
             QVERIFY(!record.fileName.contains("091000_EVT"));
