@@ -1,6 +1,5 @@
-// libFuzzer entry for the config.bin reader: any bytes a card may hold as config.bin must be
-// read without touching memory outside them, and whatever the reader takes in must come out
-// of the writer as a file the reader accepts with the same values.
+// libFuzzer entry for config.bin: any bytes are read in bounds, and what is read is written
+// back as a file the reader takes again with the same values.
 #include "AppGlobals.h"
 #include "ConfigImage.h"
 #include "JsonToConfig.h"

@@ -1,5 +1,4 @@
-// libFuzzer entry for the freeGPS source's block reader: any bytes found as a block are read
-// as one layout or refused, without touching memory outside them; readings are in range.
+// libFuzzer entry for freeGPS blocks: one layout or refused, read in bounds, readings in range.
 #include "FreeGpsBlock.h"
 
 #include <cmath>

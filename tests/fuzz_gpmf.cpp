@@ -1,6 +1,5 @@
-// libFuzzer entry for the GPMF source's parser: any bytes a file may hold as a GPMF sample
-// are read or refused without touching memory outside them, give only readings in range,
-// and make frames.
+// libFuzzer entry for the GPMF parser: any bytes are read or refused in bounds, readings in
+// range, and frames made of them.
 #include "GpmfParser.h"
 #include "ReadingGrid.h"
 

@@ -1,6 +1,4 @@
-// libFuzzer entry for the NMEA box source, whole: the input is a file, walked as boxes for a
-// udat box or a free box with a log, whose readings are taken and put on frames. Any file
-// gives readings in range or none.
+// libFuzzer entry for the NMEA box source: any file, walked as boxes, gives readings in range.
 #include "BoxFile.h"
 #include "NmeaBoxTelemetrySource.h"
 

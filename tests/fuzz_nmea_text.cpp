@@ -1,5 +1,4 @@
-// libFuzzer entry for the NMEA text source's parser: any text a track's sample may hold
-// gives fixes in range, or none, without reading outside the text.
+// libFuzzer entry for the NMEA parser: any text gives fixes in range or none, read in bounds.
 #include "NmeaParser.h"
 
 #include <cmath>

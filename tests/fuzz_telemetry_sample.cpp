@@ -1,5 +1,4 @@
-// libFuzzer entry for the telemetry sample parser: any bytes a file may hold as a timed-text
-// sample must be refused or read without touching memory outside the sample.
+// libFuzzer entry for the telemetry sample parser: any bytes are refused or read in bounds.
 #include "TelemetrySampleParser.h"
 
 #include <cmath>

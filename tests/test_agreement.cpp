@@ -1,5 +1,4 @@
-// The privacy agreement: which stored answers let the program run, and what the dialog
-// stores when the user answers it.
+// The privacy agreement: which stored answers let the program run, and what the dialog stores.
 #include "AgreementView.h"
 #include "AppGlobals.h"
 #include "MainWindow.h"

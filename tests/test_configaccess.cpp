@@ -1,6 +1,5 @@
-// The camera's config.bin: every shipped model read and written byte for byte, the check
-// byte, the item widths, bad files, and writes that fail half way and must keep the card's
-// previous bytes.
+// The camera's config.bin: every shipped model read and written byte for byte, bad files, and
+// failed writes that must keep the card's previous bytes.
 #include "AppGlobals.h"
 #include "CardDrives.h"
 #include "CardFixture.h"

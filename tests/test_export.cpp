@@ -1,6 +1,5 @@
-// Saving the playing recording's cameras through the save dialog, with the real ffmpeg:
-// which files are copied with which arguments, what ffprobe finds in the copies, snapshots,
-// their names and pixels, a failing or cancelled ffmpeg, and what the user is told.
+// Saving cameras through the save dialog with the real ffmpeg and ffprobe: the copies, the
+// snapshots, a failing or cancelled ffmpeg, and what the user is told.
 #include "AppGlobals.h"
 #include "FfmpegProgress.h"
 #include "FfmpegRunner.h"

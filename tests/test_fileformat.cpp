@@ -1,8 +1,6 @@
-// The card format that keeps the camera's configuration, with the real mkdosfs on a FAT image
-// file. The image stands for the card's block device and a folder for its mounted file
-// system; unmounting and mounting a removable device cannot be done here, so a stand-in
-// udisksctl moves the folder's files aside while the card is "unmounted" and shows them again
-// on "mount" unless the image was formatted meanwhile.
+// The card format that keeps the camera's configuration, with the real mkdosfs on a FAT image.
+// A stand-in udisksctl hides the card folder's files while "unmounted" and shows them again on
+// "mount" unless the image was formatted meanwhile.
 #include "AppGlobals.h"
 #include "CardDrives.h"
 #include "CardFixture.h"

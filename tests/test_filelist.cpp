@@ -1,6 +1,5 @@
-// The file list driven as a user drives it: loads, drops, recordings of several channel
-// files as one row, the type filter, stepping, deletions, double click and the background
-// work (lengths, camera counts, thumbnails).
+// The file list driven as a user drives it: loads, drops, channel files as one row, the type
+// filter, stepping, deletions, and the background lengths, camera counts and thumbnails.
 #include "AppGlobals.h"
 #include "CameraCountDelegate.h"
 #include "ItemInfoThread.h"

@@ -1,6 +1,5 @@
-// Other cameras' file names: every layout of the scheme table with its date, type and
-// channel, what stays refused, how their channel files find each other, and the rows the
-// list makes of them beside the camera's own.
+// Other cameras' file names: each layout's date, type and channel, what stays refused, and how
+// their channel files find each other.
 #include "ChannelFiles.h"
 #include "ContainerClock.h"
 #include "NameSchemes.h"

@@ -1,6 +1,4 @@
-// A folder of other cameras' recordings (made by tools/make_recordings.py, named by their
-// schemes) as a user meets it: listed with dates, types and cameras, then played on real
-// libvlc with all its cameras and the telemetry the chart and the map draw.
+// A folder of other cameras' recordings listed, and played on real libvlc with their telemetry.
 #include "AppGlobals.h"
 #include "CameraCountDelegate.h"
 #include "PlayerInterface.h"

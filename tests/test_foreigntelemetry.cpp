@@ -1,6 +1,5 @@
-// Other cameras' telemetry, read from files tools/make_recordings.py writes in their
-// layouts, against what the real ExifTool (exiftool -ee -n) reads from the same files; files
-// that look like one layout but are not, or are damaged; and the frames the player gets.
+// Other cameras' telemetry in generated files against the real ExifTool; lookalike and damaged
+// files; the frames the player gets.
 #include "ResampledTelemetrySource.h"
 #include "StreamReader.h"
 #include "kdxstream.h"

@@ -1,5 +1,4 @@
-// The stream library through its C interface, on recordings made by tools/make_recordings.py:
-// where the records put each value, what the recordings hold, and what bad files give.
+// The stream library through its C interface on generated recordings, good and bad.
 #include "kdxstream.h"
 
 #include <QDir>

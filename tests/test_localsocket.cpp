@@ -1,8 +1,5 @@
-// The link to the companion service over real local sockets, against the stand-in service:
-// no service, the greeting's answers, what "DisableNetwork" stops, answers that come
-// together, a silent service, a service that hangs up mid-request, garbage and very long
-// answers, and a close that the service does not confirm. Requests of views go through
-// ServiceRequest, which is tested here with the link.
+// The link to the companion service over real local sockets, against the stand-in service,
+// and the views' requests (ServiceRequest) over it.
 #include "AppGlobals.h"
 #include "LocalSocket.h"
 #include "ServiceFixture.h"

@@ -1,6 +1,5 @@
-// The video engine and the channel coordinator on real libvlc, playing generated
-// recordings into real windows: state sequences, channel mapping checked on the pictures,
-// moves, steps, speed, end of file and a file that disappears.
+// The video engine and the channel coordinator on real libvlc and real windows: states,
+// cameras checked on their pictures, moves, steps, speed, end of file, a vanished file.
 #include "AppGlobals.h"
 #include "PlayerInterface.h"
 #include "VLCComponent.h"

@@ -1,7 +1,4 @@
-// The whole way a user plays recordings, on the real main window with real libvlc: paths
-// given on the command line are listed and the first plays in its scenes, each camera in
-// its own scene; the end of a recording moves to the next row the type filter shows; the
-// playing row is deleted.
+// Playing recordings as a user does, on the real main window with real libvlc.
 #include "AppGlobals.h"
 #include "MainWindow.h"
 #include "PlayScreenWindow.h"

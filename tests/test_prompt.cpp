@@ -1,5 +1,4 @@
-// The program's messages, questions and file dialogs: their texts and answers, and that they
-// are drawn in the program's dark look rather than the light boxes of the platform.
+// The program's messages, questions and folder dialog: answers, and the program's dark look.
 #include "TavPrompt.h"
 
 #include <QAbstractButton>

@@ -1,6 +1,5 @@
-// The one-page report: the values taken from the playing recording, the camera choice, the
-// page saved as PDF and read back with pdftotext and pdftoppm, the preview, and a print
-// dialog that is cancelled.
+// The one-page report: its values, the camera choice, the PDF read back with pdftotext and
+// pdftoppm, the preview, and a cancelled print dialog.
 #include "AppGlobals.h"
 #include "PlayerInterface.h"
 #include "PreviewPrint.h"

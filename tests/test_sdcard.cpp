@@ -1,6 +1,5 @@
-// Card detection and selection: removable drives as Linux describes them (from drive tables
-// made here), the card dialog's listing and its open flow with each of its messages, and the
-// watch that notices a card going.
+// Card detection from drive tables made here, the card dialog's listing, opening and messages,
+// and the watch that notices a card going.
 #include "AppGlobals.h"
 #include "CardDrives.h"
 #include "CardFixture.h"

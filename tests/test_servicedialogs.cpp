@@ -1,8 +1,5 @@
-// What the user meets of the companion service, against the stand-in service: the main
-// window's version check and its answers (the update question, the download, its failure
-// and completion, closing for the installer), the about view, the update dialog, and the
-// settings dialog's pages of the program itself; and, without a service, the clear word
-// that it is not working.
+// What the user meets of the companion service, against the stand-in service: the version check
+// at start, the about and update dialogs, the settings pages, and no service at all.
 #include "AboutView.h"
 #include "AppGlobals.h"
 #include "LocalSocket.h"

@@ -1,6 +1,5 @@
-// The settings dialog on a card made here: the setting descriptions it reads, the unsaved
-// state, Apply and OK writing the card, which question a device reset asks, and a program
-// reset that removes exactly its nine keys and starts the program again.
+// The settings dialog on a card made here: descriptions, unsaved state, writing the card, the
+// reset questions, and the program reset.
 #include "AppGlobals.h"
 #include "CardDrives.h"
 #include "CardFixture.h"

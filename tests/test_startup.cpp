@@ -1,5 +1,4 @@
-// Starts the real tavoric binary the way a user does, each run with its own home folder, and
-// checks what it leaves behind: exit code, status log and stored settings.
+// The real binary started as a user does, each run with its own home: what it leaves behind.
 #include <QDir>
 #include <QFile>
 #include <QProcess>

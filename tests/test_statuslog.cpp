@@ -1,5 +1,4 @@
-// The status log as other code uses it: lines written through the five writers into the
-// data folder, their exact form, cutting, and several threads writing at once.
+// The status log: the lines' exact form, levels, cutting, and several threads writing at once.
 #include "AppGlobals.h"
 #include "StatusLog.h"
 #include "StatusLogWriter.h"

@@ -1,6 +1,5 @@
-// Other cameras' telemetry layouts byte by byte: NMEA sentences, GPMF entries and freeGPS
-// blocks as the parsers read them (and refuse them), and how readings of any rate become the
-// player's 100 ms frames.
+// Other cameras' telemetry layouts byte by byte (NMEA, GPMF, freeGPS), and readings of any rate
+// made into the player's 100 ms frames.
 #include "FreeGpsBlock.h"
 #include "GpmfParser.h"
 #include "NmeaParser.h"

@@ -1,6 +1,5 @@
-// The G-sensor chart and the GPS map: what the chart paints where (read back from the drawn
-// picture), and which scripts the map sends its page (a real web view with the program's own
-// page) for a recording, its missing fixes, its start and end; the page's encryption.
+// The G-sensor chart read back from its picture, the map's scripts to its real web page, and
+// the page's encryption.
 #include "AppGlobals.h"
 #include "ChartTrace.h"
 #include "ChartView.h"

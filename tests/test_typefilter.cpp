@@ -1,5 +1,4 @@
-// The type filter: the pop-up's toggles, the combo's face, and the mask reaching the list
-// through the same connections the main window makes.
+// The type filter: the pop-up's toggles, the combo's face, and the mask reaching the list.
 #include "AppGlobals.h"
 #include "RecordingName.h"
 #include "TavFileComboBox.h"

@@ -1,10 +1,6 @@
-// The map page in a real browser: Debian's chromium, driven by playwright-core.
-//
-//     node test_map_page.js PAGE LEAFLET_DIR OUTPUT_DIR
-//
-// The page is loaded from a folder that holds it beside Leaflet, as the program's base URL
-// does. The network is cut off (every tile request fails, as on a machine without it) or
-// answered with a tile made here (as with it). Screenshots are kept in OUTPUT_DIR.
+// The map page in a real browser (Debian's chromium, driven by playwright-core), loaded beside
+// Leaflet as the program's base URL does, offline (tile requests fail) and online (a tile made
+// here). Usage: node test_map_page.js PAGE LEAFLET_DIR OUTPUT_DIR (screenshots go there).
 "use strict";
 
 const fs = require("fs");
@@ -20,8 +16,7 @@ function check(ok, message) {
   if (!ok) failures++;
 }
 
-// A 256 x 256 PNG tile of one light colour, made without any library: a stored (not
-// compressed) deflate stream is valid PNG data.
+// A 256 x 256 PNG tile of one light colour.
 function solidTile() {
   const zlib = require("zlib");
   const row = Buffer.alloc(1 + 256 * 3);
@@ -32,7 +27,7 @@ function solidTile() {
     length.writeUInt32BE(data.length);
     const body = Buffer.concat([Buffer.from(type), data]);
     const crc = Buffer.alloc(4);
-    crc.writeUInt32BE(zlib.crc32 ? zlib.crc32(body) : crc32(body));
+    crc.writeUInt32BE(zlib.crc32(body));
     return Buffer.concat([length, body, crc]);
   };
   const header = Buffer.alloc(13);
@@ -42,15 +37,6 @@ function solidTile() {
   return Buffer.concat([Buffer.from([0x89, 0x50, 0x4e, 0x47, 0x0d, 0x0a, 0x1a, 0x0a]),
                         chunk("IHDR", header), chunk("IDAT", zlib.deflateSync(raw)),
                         chunk("IEND", Buffer.alloc(0))]);
-}
-
-function crc32(buffer) {
-  let crc = ~0;
-  for (const byte of buffer) {
-    crc ^= byte;
-    for (let k = 0; k < 8; k++) crc = (crc >>> 1) ^ (0xedb88320 & -(crc & 1));
-  }
-  return ~crc >>> 0;
 }
 
 // A drive east along a street, fast, then slow, with a stretch without a fix.
