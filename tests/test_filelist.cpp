@@ -509,25 +509,6 @@ private slots:
         QCOMPARE(m_questions.size(), 3); // nothing selected: nothing asked
     }
 
-    void deletingTheCurrentRecording() {
-        TavFileListItem list;
-        const QStringList paths = morning();
-        list.loadPaths(paths);
-        QSignalSpy stop(&list, &TavFileListItem::onSendStop);
-        QSignalSpy unblock(&list, &TavFileListItem::onSetBlockEvent);
-        list.onDeleteCurrentFile(); // nothing plays yet
-        QCOMPARE(stop.count(), 0);
-        list.onChangePlayItem(1);
-        list.onChangePlayItem(1);
-        list.onDeleteCurrentFile();
-        QCOMPARE(stop.count(), 1);
-        QCOMPARE(stop.at(0).at(0).toInt(), 3);
-        QCOMPARE(list.rowCount(), 5);
-        QVERIFY(!shownNames(list).contains("20240101_080100_EVT"));
-        QCOMPARE(unblock.last().at(0).toBool(), false);
-        QVERIFY(QFile::exists(paths.at(1)));
-    }
-
     void doubleClickAndEnterHandOverTheRowsFile() {
         TavFileListItem list;
         QStringList paths = morning();

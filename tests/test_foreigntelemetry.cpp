@@ -347,22 +347,6 @@ private slots:
             QCOMPARE(gps9[std::size_t(k)].gSensorX,
                      float((double(a.gSensor[0]) + b.gSensor[0]) / 2));
         }
-
-        // A block a second: each position stands until the next one.
-        const std::vector<KDXTextFrame> blocks =
-            frames(QStringLiteral("freegps_integer.mp4"), &info);
-        const Read integer(QStringLiteral("freegps_integer.mp4"));
-        QCOMPARE(int(blocks.size()), 40);
-        for (const KDXTextFrame& frame : blocks) {
-            if (frame.timeMs < integer.positions[0].timeMs)
-                continue;
-            std::size_t held = 0;
-            while (held + 1 < integer.positions.size() &&
-                   integer.positions[held + 1].timeMs < frame.timeMs + 100)
-                ++held;
-            QCOMPARE(frame.latitude, float(integer.positions[held].latitude));
-            QCOMPARE(frame.speed, float(integer.positions[held].speedKmh));
-        }
     }
 };
 

@@ -191,27 +191,6 @@ private slots:
         QCOMPARE(int(readAll(file.reader).size()), samples);
     }
 
-    void malformedSamplesAreSkipped() {
-        Opened file("malformed.mp4");
-        QCOMPARE(file.result, KDX_OK);
-        KDXInfo info;
-        QCOMPARE(KDXReaderGetInfo(file.reader, &info), KDX_OK);
-        QCOMPARE(info.tracks[0].frameCount, 20u); // samples, good or not
-        int end = 0;
-        const std::vector<KDXTextFrame> frames = readAll(file.reader, &end);
-        QCOMPARE(end, KDX_ERR_END);
-        // The good samples carry G-sensor X = sample number / 100.
-        const std::vector<int> good = {0, 1, 3, 5, 8, 11, 13, 15, 16, 17, 18, 19};
-        QCOMPARE(frames.size(), good.size());
-        for (std::size_t k = 0; k < good.size(); ++k) {
-            QCOMPARE(frames[k].gSensorX, good[k] / 100.0f);
-            QCOMPARE(frames[k].timeMs, qint64(good[k] * 100));
-        }
-        QCOMPARE(traceLines.size(), std::size_t(1));
-        QCOMPARE(QString::fromStdString(traceLines[0]),
-                 QString("kdxstream: 8 telemetry samples were not readings and were skipped"));
-    }
-
     void badFilesDoNotOpen_data() {
         QTest::addColumn<QString>("name");
         QTest::newRow("zero bytes") << "empty.mp4";
@@ -244,13 +223,6 @@ private slots:
         KDXReader* reader = reinterpret_cast<KDXReader*>(this);
         QCOMPARE(KDXReaderOpen(&reader, &params), KDX_ERR_OPEN);
         QVERIFY(reader == nullptr);
-    }
-
-    void headerWithoutStreamsGivesNoInformation() {
-        Opened file("no_streams.mp4");
-        QCOMPARE(file.result, KDX_OK);
-        KDXInfo info;
-        QCOMPARE(KDXReaderGetInfo(file.reader, &info), KDX_ERR_NO_STREAMS);
     }
 
     void fileCutInsideItsDataEndsEarly() {

@@ -15,9 +15,8 @@
 namespace {
 
 const QString kMedia = QStringLiteral(PLAYBACK_MEDIA);
-const QString kSplit = kMedia + "/20240301_090000_INF_1.mp4";  // red, green, blue; 5 s
-const QString kGap = kMedia + "/20240301_091000_EVT_1.mp4";    // _1 red and _3 blue; 4 s
-const QString kSingle = kMedia + "/20240301_092000_USR_4.mp4"; // 3 video tracks; 4 s
+const QString kSplit = kMedia + "/20240301_090000_INF_1.mp4"; // red, green, blue; 5 s
+const QString kGap = kMedia + "/20240301_091000_EVT_1.mp4";   // _1 red and _3 blue; 4 s
 // Three channels whose frame numbers are bar codes across their top rows; 10 s.
 const QString kBars = kMedia + "/steps/20240701_090000_INF_1.mp4";
 
@@ -188,17 +187,6 @@ private slots:
         QCOMPARE(VLCComponent::playerState, int(VLCComponent::Stopped));
     }
 
-    void singleFileShowsOneTrackPerPlayer() {
-        open(kSingle);
-        QCOMPARE(engine()->GetChannelCount(), 3);
-        QTRY_COMPARE_WITH_TIMEOUT(snapshotColour(0), Colour::Red, 3000);
-        QTRY_COMPARE_WITH_TIMEOUT(snapshotColour(1), Colour::Green, 3000);
-        QTRY_COMPARE_WITH_TIMEOUT(snapshotColour(2), Colour::Blue, 3000);
-        // ... in their own scenes, not in windows libvlc opens by itself.
-        for (QWidget* scene : {m_video[1], m_video[2]})
-            QVERIFY(scene->isVisible());
-    }
-
     void fiveSecondMovesNearBothEnds() {
         open(kSplit);
         QTest::qWait(500);
@@ -332,16 +320,6 @@ private slots:
         QVERIFY(log.open(QIODevice::ReadOnly));
         QVERIFY2(!log.readAll().contains("channels not ready"),
                  "the start waited for a camera the recording does not have");
-    }
-
-    void playsToTheEndThenAsksForTheNext() {
-        QSignalSpy next(m_player, &PlayerInterface::onSendPlayNextFile);
-        open(kGap);
-        QVERIFY(next.wait(15000));
-        QCOMPARE(next.count(), 1);
-        QCOMPARE(VLCComponent::playerState, int(VLCComponent::Stopped));
-        QCOMPARE(PlayerInterface::playStatus, int(PlayerInterface::PlayIdle));
-        QCOMPARE(PlayerInterface::totalTime, 0.0);
     }
 
     // The recording without its second camera's file, opened while another plays: its

@@ -84,65 +84,6 @@ private slots:
         QCOMPARE(RecordingName::channelIndex("20230415_083012_INF_4.mp4"), -1);
     }
 
-    void rowNames() {
-        // An MP4's channel files and tracks are one recording; an AVI is one camera's row.
-        QCOMPARE(RecordingName::recordingName("20240612_081502_INF_2.mp4"),
-                 QString("20240612_081502_INF"));
-        QCOMPARE(RecordingName::recordingName("20240612_081732_INF_4.mp4"),
-                 QString("20240612_081732_INF"));
-        QCOMPARE(RecordingName::recordingName("rec_20240612_081502_INF_1.mp4"),
-                 QString("rec_20240612_081502_INF"));
-        QCOMPARE(RecordingName::recordingName("20240612_123100_PRK_2.avi"),
-                 QString("20240612_123100_PRK_2"));
-        QCOMPARE(RecordingName::recordingName("20240612_123100_PRK_1_2.avi"),
-                 QString("20240612_123100_PRK_1_2"));
-    }
-
-    void batchMakesOneRecordOfAFoldersChannelFiles() {
-        QTemporaryDir dir;
-        auto touch = [&](const QString& name) {
-            const QString path = dir.filePath(name);
-            QDir().mkpath(QFileInfo(path).path());
-            QFile(path).open(QIODevice::WriteOnly);
-            return path;
-        };
-        const QStringList drive{touch("a/20240101_080000_INF_1.mp4"),
-                                touch("a/20240101_080000_INF_2.mp4"),
-                                touch("a/20240101_080000_INF_3.mp4")};
-        const QStringList event{touch("a/20240101_090000_EVT_1.mp4"),
-                                touch("a/20240101_090000_EVT_2.mp4")};
-        const QString aviFront = touch("a/20240101_100000_PRK_1.avi");
-        const QString aviRear = touch("a/20240101_100000_PRK_2.avi");
-        const QString elsewhere = touch("b/20240101_080000_INF_1.mp4");
-        const QStringList paths{drive.at(2), drive.at(0), elsewhere, drive.at(0), "notes.txt",
-                                event.at(0), event.at(0), aviFront,  aviRear};
-
-        bool rejected = false;
-        QVector<RecordingRecord> batch = RecordingBatch::fromPaths(paths, {}, &rejected);
-        QVERIFY(rejected);
-        QCOMPARE(batch.size(), 5);
-        // The files the paths left out are found beside the others, in their folder only.
-        QCOMPARE(batch.at(0).channelFiles, drive);
-        QCOMPARE(batch.at(0).cameraCount, 3);
-        QCOMPARE(batch.at(1).channelFiles, QStringList{elsewhere});
-        QCOMPARE(batch.at(2).channelFiles, event);
-        QCOMPARE(batch.at(2).suffixCount, 2); // given twice running
-        QCOMPARE(batch.at(2).suffixes[1], QString("mp4"));
-        QCOMPARE(batch.at(0).suffixCount, 1); // given twice, apart
-        // Each AVI is a camera the player opens alone; its cameras are read from the file.
-        QCOMPARE(batch.at(3).filePath, aviFront);
-        QCOMPARE(batch.at(4).filePath, aviRear);
-        QCOMPARE(batch.at(4).cameraCount, 0);
-        for (int i = 0; i < batch.size(); ++i)
-            QCOMPARE(batch.at(i).row, i);
-
-        // A folder listed whole named all its files: nothing more is looked for in it.
-        const QSet<QString> listed{RecordingBatch::folderOf(drive.at(0))};
-        batch = RecordingBatch::fromPaths(paths, listed, &rejected);
-        QCOMPARE(batch.at(0).channelFiles, (QStringList{drive.at(0), drive.at(2)}));
-        QCOMPARE(batch.at(2).channelFiles, QStringList{event.at(0)});
-    }
-
     void recordsSortChronologicallyByName() {
         QTemporaryDir dir;
         const QString path = dir.filePath("20230415_083012_PRK_1.mp4");

@@ -204,8 +204,6 @@ private slots:
         const QString unknown = ServiceRequest::failureText(ServiceRequest::NotUnderstood);
         QTest::newRow("newer") << "1.0.7"
                                << "Version 1.0.7 is out." << true;
-        QTest::newRow("newer by number") << "1.0.10"
-                                         << "Version 1.0.10 is out." << true;
         QTest::newRow("same") << "1.0.6"
                               << "This is the latest version." << false;
         QTest::newRow("older") << "1.0.5"
