@@ -1,14 +1,20 @@
-// Saving cameras through the save dialog with the real ffmpeg and ffprobe: the copies, the
-// snapshots, a failing or cancelled ffmpeg, and what the user is told.
+// Saving cameras through the save dialog with the real ffmpeg and ffprobe (the copies, the
+// snapshots, a failing or cancelled ffmpeg, what the user is told), and the one-page report:
+// its values, the camera choice, the PDF read back with pdftotext and pdftoppm, the preview.
 #include "AppGlobals.h"
 #include "FfmpegProgress.h"
 #include "FfmpegRunner.h"
 #include "PlayerInterface.h"
+#include "PreviewPrint.h"
+#include "PrintChannelSelectView.h"
+#include "PrintView.h"
+#include "ReportScene.h"
 #include "SaveAsView.h"
 #include "SnapshotWriter.h"
 #include "TavPrompt.h"
 #include "VideoExportPlan.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QDir>
 #include <QFile>
@@ -16,6 +22,8 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPrintDialog>
 #include <QProcess>
 #include <QProgressBar>
 #include <QPushButton>
@@ -23,6 +31,7 @@
 #include <QSignalSpy>
 #include <QStandardPaths>
 #include <QTemporaryDir>
+#include <QTimer>
 #include <QtTest>
 
 namespace {
@@ -73,6 +82,38 @@ bool writeFile(const QString& path, const QByteArray& bytes) {
     return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
 }
 
+QImage filled(const QColor& colour, const QSize& size) {
+    QImage image(size, QImage::Format_RGB32);
+    image.fill(colour);
+    return image;
+}
+
+QString pdfText(const QString& pdf) {
+    QProcess pdftotext;
+    pdftotext.start("pdftotext", {"-layout", pdf, "-"});
+    pdftotext.waitForFinished(30000);
+    return QString::fromUtf8(pdftotext.readAllStandardOutput());
+}
+
+QImage pdfPage(const QString& pdf, const QString& folder) {
+    QProcess pdftoppm;
+    pdftoppm.start("pdftoppm", {"-r", "48", "-png", "-singlefile", pdf, folder + "/page"});
+    pdftoppm.waitForFinished(30000);
+    return QImage(folder + "/page.png");
+}
+
+// The rows of a column of pixels, from the top, where a colour (within a tolerance) shows.
+QList<int> rowsOf(const QImage& image, int x, QRgb colour) {
+    QList<int> rows;
+    for (int y = 0; y < image.height(); ++y) {
+        const QRgb pixel = image.pixel(x, y);
+        if (qAbs(qRed(pixel) - qRed(colour)) < 40 && qAbs(qGreen(pixel) - qGreen(colour)) < 40 &&
+            qAbs(qBlue(pixel) - qBlue(colour)) < 40)
+            rows << y;
+    }
+    return rows;
+}
+
 } // namespace
 
 class TestExport : public QObject {
@@ -108,11 +149,53 @@ class TestExport : public QObject {
         QTRY_VERIFY_WITH_TIMEOUT(m_messages.size() > before, 60000);
     }
 
-    // Both kinds of video file, by their buttons.
-    static void containers() {
-        QTest::addColumn<QString>("container");
-        QTest::newRow("mp4") << "rMp4";
-        QTest::newRow("avi") << "rAvi";
+    // A playing recording at 65 s of 100 s whose telemetry has 100 samples; sample 65 says
+    // where the car is.
+    void playRecording() {
+        PlayerInterface::currentFile = "/cards/DCIM/20240301_090000_INF_1.mp4";
+        PlayerInterface::playStatus = PlayerInterface::PlayPaused;
+        PlayerInterface::playChannelCount = 3;
+        PlayerInterface::currentTime = 65000;
+        PlayerInterface::totalTime = 100000;
+        PlayerInterface::telemetryPresent = true;
+        PlayerInterface::gpsPresent = true;
+        PlayerInterface::gpsList.clear();
+        PlayerInterface::gSensorList.clear();
+        for (int i = 0; i < 100; ++i) {
+            PlayerInterface::gpsList << GpsPoint{
+                i, 37.12345f + (i - 65) * 0.001f, 127.54321f, 20.0f + (i == 65 ? 22.5f : 0), 1, 1};
+            PlayerInterface::gSensorList << GSensorPoint{i, i == 65 ? 0.125f : 0.0f, -0.25f, 1.0f};
+        }
+    }
+
+    // The report of camera 2 (green), with a blue map, saved as PDF; returns its path.
+    QString savedReport(const QString& folder, int speedUnit, const QString& memo) {
+        PrintChannelSelectView select;
+        ReportScene scene = ReportScene::fromPlayback("RAVEN1_A", speedUnit);
+        scene.mapImage = filled(QColor(0, 0, 255), QSize(300, 500));
+        select.setScene(scene);
+        select.setImage(0, filled(QColor(255, 0, 0), QSize(640, 360)));
+        select.setImage(1, filled(QColor(0, 255, 0), QSize(640, 360)));
+        select.show();
+        select.findChild<QRadioButton*>("item2")->click();
+        select.findChild<QPushButton*>("bOk")->click();
+        PrintView* report = select.printView();
+        if (report == nullptr || !report->isVisible())
+            return QString();
+        report->memoEditor()->setPlainText(memo);
+        const QString pdf = folder + "/report.pdf";
+        TavPrompt::saveFileHook = [pdf](const QString& suggested) {
+            return suggested.endsWith("20240301_090000_INF_1_report.pdf") ? pdf : QString();
+        };
+        report->findChild<QPushButton*>("bSavePdf")->click();
+        TavPrompt::saveFileHook = nullptr;
+        QSignalSpy finished(&select, &PrintChannelSelectView::finishedPrintView);
+        report->findChild<QPushButton*>("bCancel")->click();
+        // Closing the report closes the choice with the same result.
+        if (finished.size() != 1 || finished.at(0).at(0).toInt() != QDialog::Rejected ||
+            select.isVisible())
+            return QString();
+        return pdf;
     }
 
 private slots:
@@ -128,19 +211,12 @@ private slots:
         AppGlobals::videoPath.clear();
         AppGlobals::snapshotPath.clear();
         qputenv("PATH", m_path);
+        playRecording();
     }
 
     // Which copies run for which choice, before anything runs.
-    void planPicksTheCameraFilesOrTracks() {
+    void planFindsEveryCameraAndNamesTheMissing() {
         QTemporaryDir out;
-        // Separate files: the checked camera's own file, copied under its own name.
-        VideoExportPlan split(kSplit, 3, {1}, "mp4", out.path());
-        QCOMPARE(split.runs().size(), 1);
-        const QString input = QDir::toNativeSeparators(kMedia + "/20240301_090000_INF_2.mp4");
-        const QString output = out.path() + "/20240301_090000_INF_2.mp4";
-        QCOMPARE(split.runs().at(0).arguments,
-                 QStringList({"-y", "-i", input, "-vcodec", "copy", "-map", "0:v:0", "-acodec",
-                              "aac", "-map", "0:a?", "-threads", "1", output}));
         // Every camera of the recording is found, whichever camera's file was opened.
         VideoExportPlan all(kSplit, 3, {0, 1, 2}, "avi", out.path());
         QCOMPARE(all.runs().size(), 3);
@@ -150,13 +226,6 @@ private slots:
         VideoExportPlan partial(kPartial, 3, {0, 1, 2}, "mp4", out.path());
         QCOMPARE(partial.runs().size(), 2);
         QCOMPARE(partial.missingChannels(), QList<int>{1});
-        // One file: track by track, named after the recording and the camera.
-        VideoExportPlan tracks(kTracks, 3, {0, 2}, "avi", out.path());
-        QCOMPARE(tracks.runs().size(), 2);
-        QCOMPARE(tracks.runs().at(1).arguments,
-                 QStringList({"-y", "-i", kTracks, "-vcodec", "copy", "-map", "0:v:2", "-acodec",
-                              "aac", "-map", "0:a?", "-threads", "1",
-                              out.path() + "/20240301_092000_USR_4_3.avi"}));
         QVERIFY(!VideoExportPlan::isSeparateFiles("20240301_092000_USR_4.mp4"));
         QVERIFY(!VideoExportPlan::isSeparateFiles("20240301_090000_INF_1.MP4"));
         // Saving into the recording's own folder as the same kind would write over it.
@@ -193,62 +262,63 @@ private slots:
         QCOMPARE(FfmpegProgress::parseTime("N/A"), qint64(-1));
     }
 
-    // Only camera 2 of a separate-file recording, in both kinds of file: one copy each,
-    // of that camera's file, the picture copied as it is.
-    void oneCameraOfSeparateFiles_data() { containers(); }
-    void oneCameraOfSeparateFiles() {
-        QFETCH(QString, container);
+    // Camera 2 of a separate-file recording (its own file) and every track of a one-file
+    // recording ("0:v:N", the sound made AAC), in both kinds of file, into a new folder: the
+    // picture copied as it is, each copy with its own camera's colour.
+    void savesTheChosenCameras_data() {
+        QTest::addColumn<QString>("recording");
+        QTest::addColumn<QList<int>>("cameras");
+        QTest::addColumn<QString>("extension");
+        QTest::addColumn<QStringList>("codecs");
+        QTest::addColumn<double>("seconds");
+        for (const char* extension : {"mp4", "avi"}) {
+            QTest::addRow("camera 2, %s", extension)
+                << kSplit << QList<int>{1} << extension << QStringList{"video:h264"} << 5.0;
+            QTest::addRow("tracks, %s", extension) << kTracks << QList<int>{0, 1, 2} << extension
+                                                   << QStringList{"video:h264", "audio:aac"} << 4.0;
+        }
+    }
+    void savesTheChosenCameras() {
+        QFETCH(QString, recording);
+        QFETCH(QList<int>, cameras);
+        QFETCH(QString, extension);
+        QFETCH(QStringList, codecs);
+        QFETCH(double, seconds);
         QTemporaryDir out;
-        SaveAsView* view = open(kSplit, 3, {1});
+        const QString folder = out.path() + "/new folder";
+        SaveAsView* view = open(recording, 3, cameras);
         QSignalSpy progress(view->findChild<QProgressBar*>("progressBar"),
                             &QProgressBar::valueChanged);
-        save(view, "bSaveVideo", out.path() + "/new folder", container);
-        const QString extension = container == "rMp4" ? "mp4" : "avi";
-        const QString output = out.path() + "/new folder/20240301_090000_INF_2." + extension;
-        QCOMPARE(QDir(out.path() + "/new folder").entryList(QDir::Files),
-                 QStringList{QFileInfo(output).fileName()});
+        save(view, "bSaveVideo", folder, extension == "mp4" ? "rMp4" : "rAvi");
         QVERIFY2(m_messages.last().startsWith("Complete File Download!"),
                  qPrintable(m_messages.last()));
-        QVERIFY(m_messages.last().contains(QDir::toNativeSeparators(output)));
         QCOMPARE(view->result(), int(QDialog::Accepted));
         QVERIFY(!progress.isEmpty());
-        const Probe copy = probe(output);
-        QCOMPARE(copy.format.contains("mp4"), extension == "mp4");
-        QCOMPARE(copy.codecs, QStringList{"video:h264"});
-        QVERIFY2(qAbs(copy.duration - 5.0) < 0.2, qPrintable(QString::number(copy.duration)));
-        QCOMPARE(AppGlobals::videoPath, out.path() + "/new folder");
-        delete view;
-    }
-
-    // A one-file recording, each camera by its track: "0:v:0", "0:v:1", "0:v:2", with the
-    // sound made AAC in each copy.
-    void everyTrackOfOneFile_data() { containers(); }
-    void everyTrackOfOneFile() {
-        QFETCH(QString, container);
-        QTemporaryDir out;
-        SaveAsView* view = open(kTracks, 3, {0, 1, 2});
-        save(view, "bSaveVideo", out.path(), container);
-        QVERIFY2(m_messages.last().startsWith("Complete File Download!"),
-                 qPrintable(m_messages.last()));
-        const QString extension = container == "rMp4" ? "mp4" : "avi";
-        // The tracks are red, green and blue pictures: each copy has its own.
-        const QStringList colours = {"red", "lime", "blue"};
-        for (int camera = 1; camera <= 3; ++camera) {
-            const QString output =
-                out.path() + QStringLiteral("/20240301_092000_USR_4_%1.").arg(camera) + extension;
+        QCOMPARE(AppGlobals::videoPath, folder);
+        QStringList names;
+        for (int camera : cameras)
+            names << (recording == kSplit
+                          ? QStringLiteral("20240301_090000_INF_%1.").arg(camera + 1)
+                          : QStringLiteral("20240301_092000_USR_4_%1.").arg(camera + 1)) +
+                         extension;
+        QCOMPARE(QDir(folder).entryList(QDir::Files), names);
+        QVERIFY(m_messages.last().contains(QDir::toNativeSeparators(folder + '/' + names[0])));
+        for (int i = 0; i < cameras.size(); ++i) {
+            const QString output = folder + '/' + names[i];
             const Probe copy = probe(output);
             QCOMPARE(copy.format.contains("mp4"), extension == "mp4");
-            QCOMPARE(copy.codecs, QStringList({"video:h264", "audio:aac"}));
-            QVERIFY2(qAbs(copy.duration - 4.0) < 0.2, qPrintable(QString::number(copy.duration)));
+            QCOMPARE(copy.codecs, codecs);
+            QVERIFY2(qAbs(copy.duration - seconds) < 0.2,
+                     qPrintable(QString::number(copy.duration)));
+            // The cameras are red, green and blue pictures.
             QProcess frame;
             frame.start("ffmpeg", {"-v", "error", "-i", output, "-frames:v", "1", "-vf",
                                    "scale=1:1", "-f", "rawvideo", "-pix_fmt", "rgb24", "-"});
             QVERIFY(frame.waitForFinished(30000));
             const QByteArray rgb = frame.readAllStandardOutput();
             QCOMPARE(rgb.size(), 3);
-            const int strongest =
-                rgb.indexOf(char(std::max({uchar(rgb[0]), uchar(rgb[1]), uchar(rgb[2])})));
-            QCOMPARE(strongest, camera - 1);
+            QCOMPARE(rgb.indexOf(char(std::max({uchar(rgb[0]), uchar(rgb[1]), uchar(rgb[2])}))),
+                     cameras[i]);
         }
         delete view;
     }
@@ -419,6 +489,129 @@ private slots:
         QImage image(64, 36, QImage::Format_RGB32);
         QVERIFY(!SnapshotWriter::save(image, path + "/inside.jpg", &error));
         QVERIFY(!error.isEmpty());
+    }
+    // ---- The report ----
+
+    void valuesOfTheCurrentTime() {
+        // At 65 s of 100 s, sample 65; the PDF test reads them back.
+        QCOMPARE(ReportScene::fromPlayback(QString(), 2).speed, QStringLiteral("26.4"));
+        QCOMPARE(ReportScene::coordinateText(7.5), QStringLiteral("07.50000"));
+        QCOMPARE(ReportScene::coordinateText(-3.25), QStringLiteral("-03.25000"));
+        // No fix at this moment: no position, the G-sensor values stay.
+        PlayerInterface::gpsList[65].latitude = 0;
+        PlayerInterface::gpsList[65].longitude = 0;
+        ReportScene scene = ReportScene::fromPlayback(QString(), 1);
+        QVERIFY(scene.latitude.isEmpty() && scene.speed.isEmpty());
+        QCOMPARE(scene.gSensorZ, QStringLiteral("1.000"));
+        // No telemetry at all, and a name without its time.
+        PlayerInterface::telemetryPresent = false;
+        PlayerInterface::currentFile = "/x/drive.mp4";
+        scene = ReportScene::fromPlayback(QString(), 1);
+        QVERIFY(scene.gSensorX.isEmpty() && scene.latitude.isEmpty() && scene.date.isEmpty());
+    }
+
+    void reportWithoutACamera() {
+        PrintChannelSelectView select;
+        auto* front = select.findChild<QRadioButton*>("item1");
+        QVERIFY(front->isChecked());
+        front->setAutoExclusive(false);
+        front->setChecked(false);
+        select.findChild<QPushButton*>("bOk")->click();
+        QCOMPARE(m_messages, QStringList{"There is not selected channel!"});
+        QVERIFY(select.printView() == nullptr);
+        // Only the recording's cameras are offered.
+        PlayerInterface::playChannelCount = 2;
+        PrintChannelSelectView two;
+        QVERIFY(two.findChild<QRadioButton*>("item2")->isEnabled());
+        QVERIFY(!two.findChild<QRadioButton*>("item3")->isEnabled());
+    }
+
+    // Every line with its label and value, the speed in the chosen unit, the camera's
+    // picture above the map.
+    void pdfOfTheReport_data() {
+        QTest::addColumn<int>("unit");
+        QTest::addColumn<QString>("speedLine");
+        QTest::newRow("km/h") << 1 << "Speed: 42.5 Km/h";
+        QTest::newRow("mi/h") << 2 << "Speed: 26.4 Mi/h";
+    }
+    void pdfOfTheReport() {
+        QFETCH(int, unit);
+        QFETCH(QString, speedLine);
+        QTemporaryDir out;
+        const QString pdf = savedReport(out.path(), unit, "Rear bumper, left side");
+        QVERIFY(!pdf.isEmpty());
+        QVERIFY2(m_messages.last().startsWith("The report is saved:"),
+                 qPrintable(m_messages.last()));
+        const QString text = pdfText(pdf).simplified();
+        for (const QString& line :
+             {QString("Report"), QString("FileName: 20240301_090000_INF_1.mp4"),
+              QString("Date: 2024-03-01 09:01:05"), QString("Model Name: RAVEN1_A"),
+              QString("GPS:37.12345 (N),127.54321 (E),"), speedLine,
+              QString("G-Senor: X:0.125 Y:-0.250 Z:1.000"),
+              QString("Memo: Rear bumper, left side")})
+            QVERIFY2(text.contains(line), qPrintable(line + " not in: " + text));
+
+        const QImage page = pdfPage(pdf, out.path());
+        QVERIFY(!page.isNull());
+        const QList<int> green = rowsOf(page, page.width() / 2, qRgb(0, 255, 0));
+        const QList<int> blue = rowsOf(page, page.width() / 2, qRgb(0, 0, 255));
+        const QList<int> red = rowsOf(page, page.width() / 2, qRgb(255, 0, 0));
+        QVERIFY(red.isEmpty()); // camera 1 was not chosen
+        QVERIFY2(green.size() > page.height() / 6, qPrintable(QString::number(green.size())));
+        QVERIFY2(blue.size() > page.height() / 6, qPrintable(QString::number(blue.size())));
+        QVERIFY(green.last() < blue.first());
+        // The picture spans the page's width within its margins.
+        const QRgb middle = page.pixel(page.width() / 10 + 2, green.at(green.size() / 2));
+        QVERIFY(qGreen(middle) > 200 && qRed(middle) < 60);
+    }
+
+    void withoutTelemetryTheLabelsStay() {
+        PlayerInterface::telemetryPresent = false;
+        PlayerInterface::gpsPresent = false;
+        QTemporaryDir out;
+        const QString pdf = savedReport(out.path(), 1, QString());
+        QVERIFY(!pdf.isEmpty());
+        const QString text = pdfText(pdf).simplified();
+        for (const char* line : {"FileName: 20240301_090000_INF_1.mp4", "GPS: (N), (E),",
+                                 "Speed: Km/h", "G-Senor: X: Y: Z:", "Memo:"})
+            QVERIFY2(text.contains(QLatin1String(line)),
+                     qPrintable(QString(line) + " not in: " + text));
+    }
+
+    // The preview is the page: white, the camera's picture above the map.
+    void previewShowsThePage() {
+        PreviewPrint preview;
+        preview.resize(400, 566);
+        ReportScene scene = ReportScene::fromPlayback(QString(), 1);
+        scene.sceneImage = filled(QColor(0, 255, 0), QSize(640, 360));
+        preview.setSceneData(scene);
+        preview.setMapData(filled(QColor(0, 0, 255), QSize(400, 300)));
+        const QImage shot = preview.grab().toImage();
+        const QList<int> green = rowsOf(shot, 200, qRgb(0, 255, 0));
+        const QList<int> blue = rowsOf(shot, 200, qRgb(0, 0, 255));
+        QVERIFY(!green.isEmpty() && !blue.isEmpty());
+        QVERIFY(green.last() < blue.first());
+        QCOMPARE(QColor(shot.pixel(200, 12)), QColor(Qt::white));
+    }
+
+    // Cancelling the system's print dialog prints nothing and keeps the report.
+    void cancelledPrintKeepsTheReport() {
+        PrintView report;
+        ReportScene scene = ReportScene::fromPlayback(QString(), 1);
+        scene.sceneImage = filled(Qt::green, QSize(64, 36));
+        report.setScene(scene);
+        report.show();
+        bool seen = false;
+        QTimer::singleShot(200, [&seen] {
+            if (auto* dialog = qobject_cast<QPrintDialog*>(QApplication::activeModalWidget())) {
+                seen = true;
+                dialog->reject();
+            }
+        });
+        report.findChild<QPushButton*>("bPrint")->click();
+        QVERIFY(seen);
+        QVERIFY(report.isVisible());
+        QCOMPARE(report.chosenCount(), 1);
     }
 };
 
