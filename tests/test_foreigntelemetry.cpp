@@ -1,5 +1,10 @@
-// Other cameras' telemetry in generated files against the real ExifTool; lookalike and damaged
-// files; the frames the player gets.
+// Other cameras' telemetry: the layouts byte by byte (NMEA, GPMF, freeGPS) as the parsers read
+// and refuse them, readings of any rate made into the player's 100 ms frames, and generated
+// files against the real ExifTool, lookalike and damaged files included.
+#include "FreeGpsBlock.h"
+#include "GpmfParser.h"
+#include "NmeaParser.h"
+#include "ReadingGrid.h"
 #include "ResampledTelemetrySource.h"
 #include "StreamReader.h"
 #include "kdxstream.h"
@@ -13,8 +18,179 @@
 #include <QtTest>
 
 #include <cmath>
+#include <cstring>
+#include <string>
+#include <vector>
+
+using kdx::TelemetryReading;
 
 namespace {
+
+using Bytes = std::vector<std::uint8_t>;
+
+std::vector<kdx::NmeaParser::Fix> fixesOf(const std::string& text) {
+    std::vector<kdx::NmeaParser::Fix> fixes;
+    kdx::NmeaParser::parse(text.data(), text.size(), fixes);
+    return fixes;
+}
+
+// "$BODY*hh\r\n" with the checksum it should have.
+std::string sentence(const std::string& body) {
+    unsigned checksum = 0;
+    for (char c : body)
+        checksum ^= static_cast<unsigned char>(c);
+    char tail[8];
+    std::snprintf(tail, sizeof tail, "*%02X\r\n", checksum);
+    return "$" + body + tail;
+}
+
+// --- GPMF ---
+
+void put16(Bytes& out, unsigned value) {
+    out.push_back(std::uint8_t(value >> 8));
+    out.push_back(std::uint8_t(value));
+}
+void put32(Bytes& out, std::uint32_t value) {
+    put16(out, value >> 16);
+    put16(out, value & 0xffff);
+}
+Bytes klv(const char* key, char type, unsigned structSize, unsigned repeat, const Bytes& data) {
+    Bytes out(key, key + 4);
+    out.push_back(std::uint8_t(type));
+    out.push_back(std::uint8_t(structSize));
+    put16(out, repeat);
+    out.insert(out.end(), data.begin(), data.end());
+    while (out.size() % 4 != 0)
+        out.push_back(0);
+    return out;
+}
+Bytes nest(const char* key, const std::vector<Bytes>& entries) {
+    Bytes data;
+    for (const Bytes& entry : entries)
+        data.insert(data.end(), entry.begin(), entry.end());
+    return klv(key, '\0', 1, unsigned(data.size()), data);
+}
+Bytes int32s(std::initializer_list<std::int32_t> values) {
+    Bytes out;
+    for (std::int32_t v : values)
+        put32(out, std::uint32_t(v));
+    return out;
+}
+Bytes int16s(std::initializer_list<int> values) {
+    Bytes out;
+    for (int v : values)
+        put16(out, unsigned(v) & 0xffff);
+    return out;
+}
+Bytes text(const char* value) {
+    return Bytes(value, value + std::strlen(value));
+}
+
+// One device with a GPS5 stream (2 positions) and an ACCL stream (2 readings).
+Bytes gpmfSample(int gpsFix = 3, const char* orientation = nullptr) {
+    std::vector<Bytes> accel{klv("SCAL", 's', 2, 1, int16s({100}))};
+    if (orientation != nullptr)
+        accel.insert(accel.begin(), klv("ORIN", 'c', 3, 1, text(orientation)));
+    accel.push_back(klv("ACCL", 's', 6, 2, int16s({981, -196, 0, 0, 0, 1962})));
+    return nest(
+        "DEVC",
+        {klv("DVID", 'L', 4, 1, int32s({1})), nest("STRM", accel),
+         nest("STRM", {klv("GPSF", 'L', 4, 1, int32s({gpsFix})),
+                       klv("SCAL", 'l', 4, 5, int32s({10000000, 10000000, 1000, 1000, 100})),
+                       klv("GPS5", 'l', 20, 2,
+                           int32s({374853000, 1271162000, 30000, 10000, 1000, -374854000,
+                                   -1271164000, 31000, 20000, 2000}))})});
+}
+
+// --- freeGPS ---
+
+void putLe32(Bytes& block, std::size_t at, std::uint32_t value) {
+    for (int i = 0; i < 4; ++i)
+        block[at + std::size_t(i)] = std::uint8_t(value >> (8 * i));
+}
+void putLeFloat(Bytes& block, std::size_t at, float value) {
+    std::uint32_t bits;
+    std::memcpy(&bits, &value, 4);
+    putLe32(block, at, bits);
+}
+
+Bytes freeGpsHead() {
+    Bytes block(0x8000, 0);
+    block[1] = 0;
+    block[2] = 0x80;
+    std::memcpy(block.data() + 4, "freeGPS ", 8);
+    block[12] = 0x4c;
+    return block;
+}
+void freeGpsClock(Bytes& block, char status = 'A') {
+    const std::uint32_t clock[] = {8, 15, 2, 24, 6, 12};
+    for (int i = 0; i < 6; ++i)
+        putLe32(block, 48 + 4 * std::size_t(i), clock[i]);
+    block[72] = std::uint8_t(status);
+    block[73] = 'S';
+    block[74] = 'W';
+}
+// 37°29.118' S, 127°06.972' W at 10 knots.
+Bytes floatBlock(char status = 'A') {
+    Bytes block = freeGpsHead();
+    freeGpsClock(block, status);
+    putLeFloat(block, 76, 3729.118f);
+    putLeFloat(block, 80, 12706.972f);
+    putLeFloat(block, 84, 10.0f);
+    return block;
+}
+Bytes integerBlock() {
+    Bytes block = freeGpsHead();
+    std::memcpy(block.data() + 16, "IQS_A7", 6);
+    freeGpsClock(block);
+    return block;
+}
+Bytes nmeaBlock() {
+    Bytes block = freeGpsHead();
+    std::memcpy(block.data() + 52, "20240612171502", 14);
+    putLe32(block, 68, 256);
+    putLe32(block, 72, std::uint32_t(-128));
+    putLe32(block, 76, 0);
+    const std::string sentences =
+        sentence("GPRMC,081502.00,A,3729.1180,N,12706.9720,E,10.0,0.0,120624,,,A") +
+        sentence("GPGGA,081502.00,3729.1180,N,12706.9720,E,1,09,0.9,30.0,M,0.0,M,,");
+    std::memcpy(block.data() + 80, sentences.data(), sentences.size());
+    return block;
+}
+
+TelemetryReading position(std::int64_t timeMs, double latitude, std::uint32_t fix = 2) {
+    TelemetryReading reading;
+    reading.timeMs = timeMs;
+    reading.fields = KDX_FIELD_POSITION | KDX_FIELD_SPEED;
+    reading.latitude = latitude;
+    reading.longitude = 127;
+    reading.speedKmh = latitude;
+    reading.gpsFlags = fix;
+    return reading;
+}
+TelemetryReading acceleration(std::int64_t timeMs, float x) {
+    TelemetryReading reading;
+    reading.timeMs = timeMs;
+    reading.fields = KDX_FIELD_GSENSOR;
+    reading.gSensor[0] = x;
+    return reading;
+}
+
+std::vector<KDXTextFrame> grid(std::vector<TelemetryReading> readings, std::int32_t spanMs) {
+    kdx::ReadingGrid::setDurations(readings);
+    kdx::ReadingGrid frames(&readings, spanMs);
+    std::vector<KDXTextFrame> out;
+    KDXTextFrame frame;
+    while (frames.next(frame))
+        out.push_back(frame);
+    return out;
+}
+
+bool hasPosition(const KDXTextFrame& frame) {
+    return (frame.fields & KDX_FIELD_POSITION) != 0;
+}
+
+// --- Files ---
 
 const QString kMedia = QStringLiteral(FOREIGN_MEDIA) + "/telemetry/";
 
@@ -175,6 +351,187 @@ class TestForeignTelemetry : public QObject {
     }
 
 private slots:
+    // --- NMEA ---
+
+    void rmcAndGgaOfOneMomentMakeOneFix() {
+        const auto fixes =
+            fixesOf(sentence("GNRMC,081502.50,A,3729.1206,S,12706.9738,W,25.9,45.0,120624,,,A") +
+                    sentence("GNGGA,081502.50,3729.1206,S,12706.9738,W,2,11,0.8,35.2,M,0,M,,") +
+                    sentence("GPRMC,081503.50,A,3729.1300,N,12706.9800,E,,,120624,,,A"));
+        QCOMPARE(int(fixes.size()), 2);
+        QCOMPARE(fixes[0].timeOfDayMs, ((8 * 60 + 15) * 60 + 2) * 1000 + 500);
+        QVERIFY(fixes[0].hasPosition);
+        QCOMPARE(fixes[0].latitude, -(37 + 29.1206 / 60));
+        QCOMPARE(fixes[0].longitude, -(127 + 6.9738 / 60));
+        QCOMPARE(fixes[0].speedKmh, 25.9 * 1.852);
+        QCOMPARE(fixes[0].satellites, 11);
+        QCOMPARE(fixes[0].fix, 3u);  // GGA quality 2: differential
+        QVERIFY(!fixes[1].hasSpeed); // an empty speed field is no speed of 0
+        QCOMPARE(fixes[1].clockMs() - fixes[0].clockMs(), qint64(1000));
+    }
+
+    void sentencesThatAreNoFixOrBroken() {
+        // A warning status, no fix quality, a checksum that does not match, minutes of 60,
+        // a latitude beyond the pole, a cut sentence, another sentence type, garbage.
+        const std::string rejected[] = {
+            sentence("GPRMC,081502.00,V,3729.1206,N,12706.9738,E,0.0,0.0,120624,,,N"),
+            sentence("GPGGA,081502.00,3729.1206,N,12706.9738,E,0,00,,,M,,M,,"),
+            "$GPRMC,081502.00,A,3729.1206,N,12706.9738,E,0.0,0.0,120624,,,A*00\r\n",
+            sentence("GPRMC,081502.00,A,3760.0000,N,12706.9738,E,0.0,0.0,120624,,,A"),
+            sentence("GPRMC,081502.00,A,9100.0000,N,12706.9738,E,0.0,0.0,120624,,,A"),
+            "$GPRMC,081502.00,A,3729.",
+            sentence("GPGSA,A,3,04,05,,09,12,,,24,,,,,2.5,1.3,2.1"),
+            "$$$$,,,,*\r\n$GPRMC",
+        };
+        for (const std::string& text : rejected) {
+            const auto fixes = fixesOf(text);
+            QVERIFY2(fixes.empty() || !fixes.front().hasPosition, text.c_str());
+        }
+        // Without a checksum a sentence is taken as it is.
+        QVERIFY(fixesOf("$GPRMC,081502,A,3729.1206,N,12706.9738,E,1.0,0.0,120624,,\n")
+                    .front()
+                    .hasPosition);
+    }
+
+    void cameraClockAndMidnight() {
+        const auto fixes =
+            fixesOf("[1718236799000]" +
+                    sentence("GPRMC,235959.00,A,3729.1206,N,12706.9738,E,0.0,0.0,120624,,,A") +
+                    "[1718236800000]" +
+                    sentence("GPRMC,000000.00,A,3729.1206,N,12706.9738,E,0.0,0.0,130624,,,A"));
+        QCOMPARE(int(fixes.size()), 2);
+        QCOMPARE(fixes[0].timecodeMs, qint64(1718236799000));
+        QCOMPARE(fixes[1].timecodeMs, qint64(1718236800000));
+        QCOMPARE(fixes[1].clockMs() - fixes[0].clockMs(), qint64(1000));
+    }
+
+    // --- GPMF ---
+
+    void gpmfScalesEachValueAndNamesItsAxes() {
+        kdx::GpmfParser::Sample sample;
+        const Bytes bytes = gpmfSample(3, "zXY");
+        QVERIFY(kdx::GpmfParser::parse(bytes.data(), bytes.size(), sample));
+        QCOMPARE(int(sample.positions.size()), 2);
+        QCOMPARE(sample.positions[1].longitude, -127.1164); // signed, unlike the files'
+        QCOMPARE(sample.positions[0].gpsFlags & 3u, 2u);
+        QCOMPARE(int(sample.accelerations.size()), 2);
+        // Stored -Z, X, Y: 9.81 m/s² on -Z, -1.96 on X.
+        const TelemetryReading& first = sample.accelerations[0];
+        QVERIFY(std::fabs(first.gSensor[2] + 9.81 / 9.80665) < 1e-6);
+        QVERIFY(std::fabs(first.gSensor[0] + 1.96 / 9.80665) < 1e-6);
+        QCOMPARE(sample.accelerations[1].gSensor[1], float(19.62 / 9.80665));
+    }
+
+    void gpmfWithoutFixOrDamaged() {
+        kdx::GpmfParser::Sample sample;
+        Bytes bytes = gpmfSample(0);
+        QVERIFY(kdx::GpmfParser::parse(bytes.data(), bytes.size(), sample));
+        QCOMPARE(int(sample.positions.size()), 2);
+        QVERIFY(!sample.positions[0].hasFix()); // kept, but not to be shown
+
+        // A length running past the end: the readings before it stay.
+        bytes = gpmfSample();
+        bytes[bytes.size() - 48 + 6] = 0xff; // the repeat of the GPS5 entry, the last one
+        sample = {};
+        QVERIFY(kdx::GpmfParser::parse(bytes.data(), bytes.size(), sample));
+        QCOMPARE(int(sample.accelerations.size()), 2);
+        QCOMPARE(int(sample.positions.size()), 0);
+
+        // A cut sample, and no sample at all.
+        bytes = gpmfSample();
+        QVERIFY(!kdx::GpmfParser::parse(bytes.data(), bytes.size() / 2, sample));
+        QVERIFY(!kdx::GpmfParser::parse(bytes.data(), 7, sample));
+        // A scale of 0 divides nothing.
+        bytes = nest("DEVC", {nest("STRM", {klv("SCAL", 's', 2, 1, int16s({0})),
+                                            klv("ACCL", 's', 6, 1, int16s({1, 2, 3}))})});
+        sample = {};
+        QVERIFY(kdx::GpmfParser::parse(bytes.data(), bytes.size(), sample));
+        QVERIFY(sample.accelerations.empty());
+    }
+
+    // --- freeGPS ---
+
+    // The blocks compared with ExifTool are all north and east: here south and west (the
+    // layouts share the hemisphere letters), and the NMEA block's satellites.
+    void freeGpsHemispheresAndSatellites() {
+        TelemetryReading reading;
+        Bytes block = floatBlock();
+        QCOMPARE(kdx::FreeGpsBlock::layoutOf(block.data(), block.size()),
+                 kdx::FreeGpsBlock::Layout::Float);
+        QVERIFY(kdx::FreeGpsBlock::parse(block.data(), block.size(), reading));
+        QCOMPARE(reading.latitude, -(37 + (double(3729.118f) - 3700) / 60));
+        QCOMPARE(reading.longitude, -(127 + (double(12706.972f) - 12700) / 60));
+        block = nmeaBlock();
+        QVERIFY(kdx::FreeGpsBlock::parse(block.data(), block.size(), reading));
+        QCOMPARE(reading.gpsFlags >> 2, 3u); // nine satellites
+    }
+
+    // Each layout's block is read as that layout only: an integer block read as floats
+    // would put the car anywhere on earth.
+    void blocksAreNeverReadAsAnotherLayout() {
+        using Layout = kdx::FreeGpsBlock::Layout;
+        QCOMPARE(kdx::FreeGpsBlock::layoutOf(integerBlock().data(), 0x8000), Layout::Integer);
+        QCOMPARE(kdx::FreeGpsBlock::layoutOf(nmeaBlock().data(), 0x8000), Layout::NmeaText);
+        const Bytes gpmf = gpmfSample();
+        QCOMPARE(kdx::FreeGpsBlock::layoutOf(gpmf.data(), gpmf.size()), Layout::None);
+        const Bytes blocks[] = {floatBlock(), integerBlock(), nmeaBlock()};
+        for (const Bytes& block : blocks) {
+            kdx::GpmfParser::Sample sample;
+            QVERIFY(!kdx::GpmfParser::parse(block.data(), block.size(), sample));
+        }
+        // The NMEA text of a block is no sentence of the box or track sources on its own
+        // (those read only boxes and tracks), and a float block holds no sentence.
+        QVERIFY(!kdx::NmeaParser::containsSentence(
+            reinterpret_cast<const char*>(floatBlock().data()), 0x8000));
+
+        TelemetryReading reading;
+        Bytes block = floatBlock('V'); // no fix
+        QVERIFY(!kdx::FreeGpsBlock::parse(block.data(), block.size(), reading));
+        block = floatBlock();
+        putLe32(block, 64, 13); // month 13
+        QCOMPARE(kdx::FreeGpsBlock::layoutOf(block.data(), block.size()), Layout::None);
+        block = floatBlock();
+        putLeFloat(block, 76, NAN);
+        QVERIFY(!kdx::FreeGpsBlock::parse(block.data(), block.size(), reading));
+        QCOMPARE(kdx::FreeGpsBlock::layoutOf(floatBlock().data(), 91), Layout::None);
+    }
+
+    // --- frames ---
+
+    void framesAverageHoldAndEnd() {
+        const auto frames =
+            grid({position(0, 10), acceleration(0, 1), acceleration(30, 2), acceleration(60, 6),
+                  acceleration(120, 8), position(1000, 20), acceleration(1900, 0)},
+                 2500);
+        QCOMPARE(int(frames.size()), 25);
+        QCOMPARE(frames[0].gSensorX, 3.0f);  // mean of 1, 2, 6
+        QCOMPARE(frames[1].gSensorX, 8.0f);  // the one reading within
+        QCOMPARE(frames[5].gSensorX, 8.0f);  // held until the next one...
+        QCOMPARE(frames[19].gSensorX, 0.0f); // ...at 1.9 s
+        QCOMPARE(frames[9].latitude, 10.0f); // positions are not interpolated
+        QCOMPARE(frames[9].speed, 10.0f);
+        QCOMPARE(frames[10].latitude, 20.0f);
+        QCOMPARE(frames[19].latitude, 20.0f); // held as long as the one before lasted
+        QVERIFY(!hasPosition(frames[20]));    // and no longer
+    }
+
+    void lostFixIsNotShownAsTheLastPosition() {
+        // Fixes at 0 and 8 s, a reading without a fix at 0.5 s: the first fix stands until
+        // then; without any reading the hold ends after two seconds.
+        const auto frames = grid({position(0, 10), position(500, 11, 0), position(8000, 12)}, 9000);
+        QVERIFY(hasPosition(frames[4]));
+        QVERIFY(!hasPosition(frames[5]));
+        QVERIFY(!hasPosition(frames[60]));
+        QCOMPARE(frames[80].latitude, 12.0f);
+        const auto sparse = grid({position(0, 10), position(8000, 12)}, 9000);
+        QVERIFY(hasPosition(sparse[19]));
+        QVERIFY(!hasPosition(sparse[20]));
+        QCOMPARE(kdx::ReadingGrid::frameCount(0), 0u);
+        QCOMPARE(kdx::ReadingGrid::frameCount(4001), 41u);
+    }
+
+    // --- Files against ExifTool ---
+
     void initTestCase() {
         QProcess probe;
         probe.start(QStringLiteral("exiftool"), {QStringLiteral("-ver")});

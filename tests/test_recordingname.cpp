@@ -1,6 +1,9 @@
-// Which file names the viewer admits, what it reads from them, and recording lengths as the
-// file list shows them, read from generated recordings.
+// Which file names the viewer admits, its own and other cameras' layouts, what it reads from
+// them, how channel files find each other, and recording lengths read from generated files.
 #include "AppGlobals.h"
+#include "ChannelFiles.h"
+#include "ContainerClock.h"
+#include "NameSchemes.h"
 #include "RecordingBatch.h"
 #include "RecordingName.h"
 #include "RecordingRecord.h"
@@ -12,10 +15,23 @@
 
 #include <algorithm>
 
+namespace {
+const QString kCameras = QStringLiteral(FOREIGN_MEDIA) + "/cameras/";
+} // namespace
+
 class TestRecordingName : public QObject {
     Q_OBJECT
 
     QTemporaryDir m_dataFolder;
+    QTemporaryDir m_dir;
+
+    QString touch(const QString& relative) {
+        const QString path = m_dir.filePath(relative);
+        QDir().mkpath(QFileInfo(path).path());
+        QFile file(path);
+        file.open(QIODevice::WriteOnly);
+        return path;
+    }
 
 private slots:
     void initTestCase() { AppGlobals::dataFolder = m_dataFolder.path(); }
@@ -36,11 +52,63 @@ private slots:
         QTest::newRow("hour 24") << "20230415_243012_INF_1.mp4" << false;
         QTest::newRow("year 21xx") << "21230415_083012_INF_1.mp4" << false;
         QTest::newRow("folder with underscores") << "/a_b_c_d/notes.mp4" << false;
+        // The own layout is judged by its grammar alone, other cameras' layouts at hand.
+        for (const char* name :
+             {"20230415_083012_INF_1.MP4", "20230415_083012_EVT_1_2.mp4",
+              "20230415_083012_INF_6.mp4", "20230415_083012_inf_1.mp4", "20230415_083012_INF1.mp4",
+              "20230415_083012_INF_1.mkv", "20240230_081502_F.MP4", "20240612_251502_F.MP4",
+              "20240612_081502_F.mkv", "20240612_081502_4.mp4", "clip_final.MOV", "notes.mp4"})
+            QTest::newRow(name) << name << false;
     }
     void nameCheck() {
         QFETCH(QString, path);
         QFETCH(bool, accepted);
         QCOMPARE(RecordingName::isSupportedName(path), accepted);
+    }
+
+    void layouts_data() {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("folder");
+        QTest::addColumn<QString>("start"); // empty: the name has no date
+        QTest::addColumn<int>("type");
+        QTest::addColumn<int>("channel");
+        const auto row = [](const char* tag, const char* name, const char* folder, int type,
+                            int channel, bool dated = true) {
+            QTest::newRow(tag) << QString(name) << QString(folder)
+                               << (dated ? QString("2024-06-12 08:15:02") : QString()) << type
+                               << channel;
+        };
+        row("type and channel letters", "20240612_081502_EF.mp4", "", 2, 0);
+        row("letters, lower case", "20240612_081502_pr.MP4", "", 3, 1);
+        row("interior camera", "20240612_081502_NI.mov", "", 1, 2);
+        row("word, underscores everywhere", "REC_2024_06_12_08_15_02_F.MP4", "Event", 1, 0);
+        row("type from the folder", "2024_06_12_08_15_02.MP4", "Parking", 3, -1);
+        row("sequence and channel", "2024_06_12_08_15_02_0003_R.mov", "", 1, 1);
+        row("YYYY_MMDD_HHMMSS_SEQ", "2024_0612_081502_001F.MP4", "", 1, 0);
+        row("YYYY_MMDD, event letter", "2024_0612_081502_001ER.MP4", "", 2, 1);
+        row("read-only folder", "2024_0612_081502_002.MP4", "RO", 2, -1);
+        row("word and dashes", "NO20240612-081502-000002F.MP4", "", 1, 0);
+        row("event word, dashes", "EV20240612-081502-000002R.MP4", "", 2, 1);
+        row("dashes, manual folder", "20240612-081502.MOV", "manual", 4, -1);
+        row("channel digit", "20240612_081502_2.mp4", "", 1, 1);
+        row("type word after the sequence", "20240612_081502_0001_EVT_F.MP4", "", 2, 0);
+        row("unknown word, normal folder", "FILE_20240612_081502.avi", "Normal", 1, -1);
+        row("numbered action camera", "GH010123.MP4", "", 4, -1, false);
+        row("numbered, lower case", "gopr0123.mp4", "Event", 2, -1, false);
+    }
+    void layouts() {
+        QFETCH(QString, name);
+        QFETCH(QString, folder);
+        QFETCH(QString, start);
+        QFETCH(int, type);
+        QFETCH(int, channel);
+        const ForeignName parsed = NameSchemes::parse(name, folder);
+        QVERIFY(parsed.valid);
+        QCOMPARE(parsed.start.toString("yyyy-MM-dd HH:mm:ss"), start);
+        QCOMPARE(parsed.type, type);
+        QCOMPARE(parsed.channel, channel);
+        QVERIFY(RecordingName::isSupportedName("/cards/" + folder + "/" + name));
+        QCOMPARE(RecordingName::typeOf("/cards/" + folder + "/" + name), type);
     }
 
     void cardListingAdmitsSingleChannelNamesOnly() {
@@ -82,6 +150,64 @@ private slots:
         QVERIFY(RecordingName::siblingChannelPath("/d/20230415_083012_INF_1.mp4", 3).isEmpty());
         QCOMPARE(RecordingName::channelIndex("20230415_083012_INF_3.mp4"), 2);
         QCOMPARE(RecordingName::channelIndex("20230415_083012_INF_4.mp4"), -1);
+    }
+
+    void channelFilesFindEachOther() {
+        QCOMPARE(ChannelFiles::siblingPath("/d_F/2024_0612_081502_001F.MP4", 1),
+                 QString("/d_F/2024_0612_081502_001R.MP4"));
+        QCOMPARE(ChannelFiles::siblingPath("C:\\cam\\20240612_081502_ef.mp4", 2),
+                 QString("C:\\cam\\20240612_081502_ei.mp4"));
+        QCOMPARE(ChannelFiles::siblingPath("/d/20240612_081502_1.MP4", 2),
+                 QString("/d/20240612_081502_3.MP4"));
+        QCOMPARE(ChannelFiles::siblingPath("/d/20240101_080000_INF_2.mp4", 0),
+                 QString("/d/20240101_080000_INF_1.mp4"));
+        QVERIFY(ChannelFiles::siblingPath("/d/GH010123.MP4", 1).isEmpty());
+        // One key for one recording's files, another for the next recording's.
+        QCOMPARE(ChannelFiles::recordingKey("/d/REC_2024_06_12_08_15_26_F.MP4"),
+                 ChannelFiles::recordingKey("/d/REC_2024_06_12_08_15_26_I.MP4"));
+        QVERIFY(ChannelFiles::recordingKey("/d/REC_2024_06_12_08_15_26_F.MP4") !=
+                ChannelFiles::recordingKey("/d/REC_2024_06_12_08_15_27_F.MP4"));
+        QCOMPARE(ChannelFiles::recordingKey("/d/20240101_080000_INF_3.mp4"),
+                 QString("/d/20240101_080000_INF"));
+        QCOMPARE(ChannelFiles::recordingKey("/d/GH010123.MP4"), QString("/d/GH010123.MP4"));
+    }
+
+    // One row per recording of another camera, named its way, with the cameras on disk that the
+    // load did not name; the player is handed the front camera's file.
+    void foreignChannelFilesMakeOneRow() {
+        const QStringList paths{touch("a/REC_2024_06_12_08_15_26_R.MP4"),
+                                touch("a/2024_0612_081502_001F.MP4")};
+        touch("a/REC_2024_06_12_08_15_26_F.MP4");
+        touch("a/REC_2024_06_12_08_15_26_I.MP4");
+        touch("a/2024_0612_081502_001R.MP4");
+        bool rejected = true;
+        const QVector<RecordingRecord> batch = RecordingBatch::fromPaths(paths, {}, &rejected);
+        QVERIFY(!rejected);
+        QCOMPARE(batch.size(), 2);
+        QCOMPARE(batch.at(0).displayName, QString("20240612_081502_INF"));
+        QCOMPARE(batch.at(1).displayName, QString("20240612_081526_INF"));
+        QCOMPARE(batch.at(0).cameraCount, 2);
+        QCOMPARE(batch.at(1).cameraCount, 3);
+        QVERIFY(batch.at(1).filePath.endsWith("REC_2024_06_12_08_15_26_F.MP4"));
+        QCOMPARE(RecordingBatch::filesOnDisk(batch.at(1).filePath).size(), 3);
+    }
+
+    // A numbered file has its date in its container; failing that, the file's own time.
+    void numberedFilesTakeTheContainersDate() {
+        const QString gopro = kCameras + "Action/GH010123.MP4";
+        QCOMPARE(ContainerClock::creationTime(gopro).toString("yyyy-MM-dd HH:mm:ss"),
+                 QString("2024-06-12 08:16:26"));
+        QCOMPARE(RecordingName::displayName(gopro), QString("20240612_081626_USR"));
+
+        const QString empty = touch("b/GX010999.MP4");
+        QVERIFY(!ContainerClock::creationTime(empty).isValid());
+        QFile file(empty);
+        QVERIFY(file.open(QIODevice::ReadWrite));
+        QVERIFY(file.setFileTime(QDateTime(QDate(2023, 1, 2), QTime(3, 4, 5), Qt::UTC),
+                                 QFileDevice::FileModificationTime));
+        file.close();
+        QCOMPARE(RecordingName::displayName(empty), QString("20230102_030405_USR"));
+        QVERIFY(!ContainerClock::creationTime(kCameras + "missing.MP4").isValid());
     }
 
     void recordsSortChronologicallyByName() {
