@@ -1,8 +1,9 @@
-// The main window as a user meets it: its panels, window-state buttons and keys, resizing, and
-// a language switch.
+// The main window as a user meets it: its panels, window-state buttons and keys, resizing by
+// its borderless edges, and a language switch.
 #include "AboutView.h"
 #include "AppGlobals.h"
 #include "ChartView.h"
+#include "Frameless.h"
 #include "LanguageView.h"
 #include "MainWindow.h"
 #include "MapView.h"
@@ -130,6 +131,42 @@ private slots:
         QTest::keyClick(m_window, Qt::Key_F11);
         QVERIFY(!m_window->isFullScreen());
         m_window->onBlockEvent(false);
+    }
+
+    // A borderless window is resized at its edges and moved from inside with the mouse.
+    void borderlessWindowFollowsTheMouse() {
+        QWidget window;
+        window.setMinimumSize(300, 200);
+        Frameless frameless(&window);
+        window.setGeometry(100, 100, 400, 300);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        // Presses at a point of the window, drags by delta, releases.
+        const auto drag = [&window](const QPoint& local, const QPoint& delta) {
+            const QPoint global = window.geometry().topLeft() + local;
+            for (const auto& [type, offset] : {std::pair{QEvent::MouseButtonPress, QPoint()},
+                                               {QEvent::MouseMove, delta},
+                                               {QEvent::MouseButtonRelease, delta}}) {
+                QMouseEvent event(type, local + offset, global + offset, Qt::LeftButton,
+                                  type == QEvent::MouseButtonRelease ? Qt::NoButton
+                                                                     : Qt::LeftButton,
+                                  Qt::NoModifier);
+                QApplication::sendEvent(&window, &event);
+            }
+        };
+        drag({398, 298}, {50, 30}); // the bottom-right corner outwards
+        QCOMPARE(window.size(), QSize(450, 330));
+        const QPoint topLeft = window.geometry().topLeft();
+        // The left edge far to the right stops at the minimum width, the right edge fixed.
+        const int right = window.geometry().right();
+        drag({2, 150}, {400, 0});
+        QCOMPARE(window.width(), 300);
+        QCOMPARE(window.geometry().right(), right);
+        // Eight pixels in from the edge is inside: a drag there moves the window.
+        window.setGeometry(QRect(topLeft, QSize(450, 330)));
+        drag({8, 150}, {-40, 25});
+        QCOMPARE(window.geometry().topLeft(), topLeft + QPoint(-40, 25));
+        QCOMPARE(window.size(), QSize(450, 330));
     }
 
     void languageDialog() {
