@@ -1,7 +1,15 @@
-// The real binary started as a user does, each run with its own home: what it leaves behind.
+// The first start: which stored agreement answers let the program run and what the dialog
+// stores; and the real binary started as a user does, each run with its own home, with what it
+// leaves behind.
+#include "AgreementView.h"
+#include "AppGlobals.h"
+#include "MainWindow.h"
+
+#include <QCheckBox>
 #include <QDir>
 #include <QFile>
 #include <QProcess>
+#include <QPushButton>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -12,6 +20,7 @@ class TestStartup : public QObject {
     Q_OBJECT
 
     QTemporaryDir m_home;
+    QTemporaryDir m_data;
 
     QString settingsFile() const { return m_home.path() + "/.config/qorbu/tavoric.conf"; }
     QString dataFolder() const {
@@ -59,15 +68,84 @@ class TestStartup : public QObject {
         QVERIFY(process.waitForStarted());
     }
 
-    // Waits until the window reports itself built.
-    void waitForWindow(QProcess& process) {
-        QTRY_VERIFY_WITH_TIMEOUT(logMessages().contains(":: [d] create mainWindow success") ||
-                                     process.state() == QProcess::NotRunning,
-                                 20000);
-        QVERIFY(process.state() == QProcess::Running);
+    // Waits until the window reports itself built; false if the program ended first.
+    bool windowBuilt(QProcess& process) {
+        for (int i = 0; i < 200 && process.state() == QProcess::Running; ++i) {
+            if (logMessages().contains(":: [d] create mainWindow success"))
+                return true;
+            QTest::qWait(100);
+        }
+        return false;
     }
 
 private slots:
+    void initTestCase() {
+        AppGlobals::dataFolder = m_data.path();
+        AppGlobals::settings = new QSettings(m_data.filePath("settings.ini"), QSettings::IniFormat);
+    }
+
+    void storedAnswers_data() {
+        QTest::addColumn<QString>("value");
+        QTest::addColumn<bool>("accepted");
+        QTest::addColumn<bool>("updates");
+        QTest::addColumn<bool>("reports");
+        QTest::newRow("0") << "0" << true << false << false;
+        QTest::newRow("1") << "1" << true << false << false;
+        QTest::newRow("3") << "3" << true << true << false;
+        QTest::newRow("5") << "5" << true << false << true;
+        QTest::newRow("7") << "7" << true << true << true;
+        QTest::newRow("2 refused") << "2" << false << false << false;
+        QTest::newRow("6") << "6" << false << false << false;
+        QTest::newRow("empty") << "" << false << false << false;
+        QTest::newRow("padded") << " 1" << false << false << false;
+        QTest::newRow("text") << "yes" << false << false << false;
+    }
+    void storedAnswers() {
+        QFETCH(QString, value);
+        QFETCH(bool, accepted);
+        QFETCH(bool, updates);
+        QFETCH(bool, reports);
+        AppGlobals::updateChecksAllowed = false;
+        AppGlobals::autoCrashReports = false;
+        QCOMPARE(MainWindow::acceptAgreementValue(value), accepted);
+        QCOMPARE(AppGlobals::updateChecksAllowed, updates);
+        QCOMPARE(AppGlobals::autoCrashReports, reports);
+    }
+
+    void dialogStoresTheChoiceOnAgree() {
+        AgreementView dialog;
+        auto* updates = dialog.findChild<QCheckBox*>("chkUpdate");
+        auto* reports = dialog.findChild<QCheckBox*>("chkReport");
+        auto* agree = dialog.findChild<QPushButton*>("bAgree");
+        QVERIFY(updates && reports && agree);
+        QVERIFY(updates->isChecked());
+        QVERIFY(!reports->isChecked());
+        QTest::mouseClick(reports, Qt::LeftButton, {}, QPoint(4, reports->height() / 2));
+        QTest::mouseClick(updates, Qt::LeftButton, {}, QPoint(4, updates->height() / 2));
+        QSignalSpy finished(&dialog, &QDialog::finished);
+        dialog.show();
+        QTest::mouseClick(agree, Qt::LeftButton);
+        QCOMPARE(finished.count(), 1);
+        QCOMPARE(finished.at(0).at(0).toInt(), 1);
+        QCOMPARE(AppGlobals::settings->value("agreement").toString(), QString("5"));
+        // What the dialog stored is what the next start accepts.
+        QVERIFY(
+            MainWindow::acceptAgreementValue(AppGlobals::settings->value("agreement").toString()));
+        QVERIFY(AppGlobals::autoCrashReports);
+        QVERIFY(!AppGlobals::updateChecksAllowed);
+    }
+
+    void declineStoresNothing() {
+        AppGlobals::settings->remove("agreement");
+        AgreementView dialog;
+        QSignalSpy finished(&dialog, &QDialog::finished);
+        dialog.show();
+        QTest::mouseClick(dialog.findChild<QPushButton*>("bDisagree"), Qt::LeftButton);
+        QCOMPARE(finished.count(), 1);
+        QCOMPARE(finished.at(0).at(0).toInt(), 0);
+        QVERIFY(!AppGlobals::settings->contains("agreement"));
+    }
+
     void init() {
         QVERIFY(m_home.isValid());
         QDir(m_home.path()).removeRecursively();
@@ -106,8 +184,20 @@ private slots:
         QCOMPARE(storedValue("language").toInt(), 1);
     }
 
-    void normalCloseSavesSettingsAndRemovesItsTraces() {
-        storeSettings({{"agreement", "1"}, {"version", "1.0.6"}, {"volume", 40}, {"mute", true}});
+    // A normal end (SIGTERM, as at logout) exits with 0 and removes the log and the data
+    // folder's leftovers; the window's size and place are stored unless the user said not to.
+    void normalCloseRemovesItsTraces_data() {
+        QTest::addColumn<bool>("keep");
+        QTest::newRow("settings kept") << true;
+        QTest::newRow("settings not kept") << false;
+    }
+    void normalCloseRemovesItsTraces() {
+        QFETCH(bool, keep);
+        storeSettings({{"agreement", "1"},
+                       {"version", "1.0.6"},
+                       {"volume", 40},
+                       {"mute", true},
+                       {"keepSettings", keep}});
         for (const char* folder : {"/Thumbs", "/snapshot", "/CONFIG"}) {
             QVERIFY(QDir().mkpath(dataFolder() + folder + "/inner"));
             QFile leftover(dataFolder() + folder + "/inner/file.jpg");
@@ -115,44 +205,30 @@ private slots:
         }
         QProcess process;
         start(process);
-        waitForWindow(process);
-        // The session asks the program to end, as at logout.
+        QVERIFY(windowBuilt(process));
         ::kill(pid_t(process.processId()), SIGTERM);
         QVERIFY(process.waitForFinished(20000));
         QCOMPARE(process.exitStatus(), QProcess::NormalExit);
         QCOMPARE(process.exitCode(), 0);
-
         QVERIFY2(!QFile::exists(logFile()), qPrintable(logLines().join('\n')));
         for (const char* folder : {"/Thumbs", "/snapshot", "/CONFIG"})
             QVERIFY(!QFile::exists(dataFolder() + folder));
-        QCOMPARE(storedValue("width").toInt(), 1366);
-        QCOMPARE(storedValue("height").toInt(), 768);
-        QVERIFY(storedValue("geoX").isValid());
+        QCOMPARE(storedValue("width").isValid(), keep);
+        QCOMPARE(storedValue("geoX").isValid(), keep);
+        if (keep)
+            QCOMPARE(QSize(storedValue("width").toInt(), storedValue("height").toInt()),
+                     QSize(1366, 768));
         QCOMPARE(storedValue("volume").toInt(), 40);
         QCOMPARE(storedValue("mute").toBool(), true);
-        QCOMPARE(storedValue("language").toInt(), 0);
         QCOMPARE(storedValue("version").toString(), QString("1.0.6"));
         QCOMPARE(storedValue("agreement").toString(), QString("1"));
-    }
-
-    void settingsAreNotKeptWhenTheUserSaidSo() {
-        storeSettings({{"agreement", "1"}, {"keepSettings", false}, {"volume", 40}});
-        QProcess process;
-        start(process);
-        waitForWindow(process);
-        ::kill(pid_t(process.processId()), SIGTERM);
-        QVERIFY(process.waitForFinished(20000));
-        QCOMPARE(process.exitCode(), 0);
-        QVERIFY(!storedValue("width").isValid());
-        QCOMPARE(storedValue("volume").toInt(), 40);
-        QVERIFY(!QFile::exists(logFile()));
     }
 
     void killedProcessLeavesTheLogForTheNextRun() {
         storeSettings({{"agreement", "5"}, {"language", 3}});
         QProcess process;
         start(process);
-        waitForWindow(process);
+        QVERIFY(windowBuilt(process));
         process.kill();
         QVERIFY(process.waitForFinished(20000));
         const QStringList afterCrash = logMessages();
@@ -174,5 +250,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestStartup)
+QTEST_MAIN(TestStartup)
 #include "test_startup.moc"

@@ -1,20 +1,59 @@
-// Views built from description files: what the reader makes of each key, and what applying a
-// record does to a real widget.
+// Views built from description files (what the reader makes of each key, what applying a record
+// does to a real widget), and the program's messages, questions and folder dialog: answers, and
+// the program's dark look.
+#include "TavPrompt.h"
 #include "UiApplier.h"
 #include "UiDescription.h"
 
 #include <QApplication>
 #include <QFile>
+#include <QFileDialog>
 #include <QLabel>
+#include <QMessageBox>
 #include <QPushButton>
+#include <QTimer>
 #include <QTranslator>
 #include <QtTest>
+
+#include <functional>
+
+namespace {
+
+// Runs check on the modal dialog once it is up; check ends the dialog. A check that fails
+// half way leaves it open, so it is closed here then, and the test reports the failure.
+void whenModal(const std::function<void(QWidget*)>& check) {
+    QTimer::singleShot(0, [check] {
+        QTRY_VERIFY(QApplication::activeModalWidget() != nullptr);
+        QWidget* dialog = QApplication::activeModalWidget();
+        QTRY_VERIFY(dialog->isVisible());
+        check(dialog);
+        if (QApplication::activeModalWidget() == dialog)
+            QMetaObject::invokeMethod(dialog, "reject", Qt::QueuedConnection);
+    });
+}
+
+// The average brightness (0-255) of a widget as drawn.
+int brightness(QWidget* widget) {
+    const QImage image = widget->grab().toImage();
+    long long sum = 0;
+    int count = 0;
+    for (int y = 0; y < image.height(); y += 3) {
+        for (int x = 0; x < image.width(); x += 3) {
+            sum += qGray(image.pixel(x, y));
+            ++count;
+        }
+    }
+    return count > 0 ? int(sum / count) : 255;
+}
+
+} // namespace
 
 class TestUiDescription : public QObject {
     Q_OBJECT
 
     QString m_view;
     QString m_file;
+    QWidget m_window;
 
     void writeView(const QByteArray& json) {
         QFile file(m_file);
@@ -27,7 +66,16 @@ private slots:
         // Test views live beside the real ones under a name no view uses.
         m_view = QStringLiteral("TestView%1").arg(QCoreApplication::applicationPid());
         m_file = UiDescription().jsonFolder() + m_view + ".json";
+        // The views that ask have style sheets of their own, as the file list does; a dialog
+        // under such a parent must still take the program's look.
+        m_window.setStyleSheet(QStringLiteral("QTableWidget{background: #1f232b; color: "
+                                              "#c9ced8; border: none;}"));
+        m_window.resize(600, 400);
+        m_window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&m_window));
+        QVERIFY(!TavPrompt::styleSheet().isEmpty());
     }
+
     void cleanupTestCase() { QFile::remove(m_file); }
 
     void missingOrBrokenFileHidesEveryChild() {
@@ -156,6 +204,61 @@ private slots:
         QCOMPARE(ui.translatedText("bAgree"), QString::fromUtf8("동의"));
         QCoreApplication::removeTranslator(&korean);
         QVERIFY(ui.translatedText("noSuchChild").isEmpty());
+    }
+
+    // ---- Messages and questions ----
+
+    void messageShowsItsTextInTheDarkLook() {
+        QString text;
+        int light = -1;
+        whenModal([&](QWidget* dialog) {
+            auto* box = qobject_cast<QMessageBox*>(dialog);
+            QVERIFY(box);
+            text = box->text();
+            light = brightness(box);
+            QVERIFY(box->button(QMessageBox::Ok));
+            // The button itself is dark too, and carries no picture.
+            QVERIFY(brightness(box->button(QMessageBox::Ok)) < 100);
+            QVERIFY(box->button(QMessageBox::Ok)->icon().isNull());
+            QTest::mouseClick(box->button(QMessageBox::Ok), Qt::LeftButton);
+        });
+        TavPrompt::inform(&m_window, QStringLiteral("Item is exist!"));
+        QCOMPARE(text, QStringLiteral("Item is exist!"));
+        QVERIFY2(light >= 0 && light < 80, qPrintable(QString::number(light)));
+    }
+
+    // Yes is the only yes: No, and Escape, are not; No is the default.
+    void questionAnswersYesOnlyForYes() {
+        for (int press : {int(QMessageBox::Yes), int(QMessageBox::No), 0}) {
+            QString title;
+            int light = -1;
+            whenModal([&](QWidget* dialog) {
+                auto* box = qobject_cast<QMessageBox*>(dialog);
+                QVERIFY(box && box->defaultButton() == box->button(QMessageBox::No));
+                title = box->windowTitle();
+                light = brightness(box);
+                if (press == 0)
+                    QTest::keyClick(dialog, Qt::Key_Escape);
+                else
+                    QTest::mouseClick(box->button(QMessageBox::StandardButton(press)),
+                                      Qt::LeftButton);
+            });
+            QCOMPARE(TavPrompt::ask(&m_window, QStringLiteral("Delete?")),
+                     press == QMessageBox::Yes);
+            QCOMPARE(title, QStringLiteral("Warning"));
+            QVERIFY2(light >= 0 && light < 80, qPrintable(QString::number(light)));
+        }
+    }
+
+    void folderDialogIsDarkAndCancelGivesNothing() {
+        int light = -1;
+        whenModal([&](QWidget* dialog) {
+            QVERIFY(qobject_cast<QFileDialog*>(dialog));
+            light = brightness(dialog);
+            QTest::keyClick(dialog, Qt::Key_Escape);
+        });
+        QCOMPARE(TavPrompt::openFolder(&m_window, QStringLiteral("Open Folder")), QString());
+        QVERIFY2(light >= 0 && light < 80, qPrintable(QString::number(light)));
     }
 };
 
