@@ -1,12 +1,9 @@
 #!/usr/bin/env python3
-"""Checks the link graph of the program's libraries, as CMake builds it.
+"""Checks the link graph of the program's libraries as CMake builds it: no cycle, and the lower
+layers (process-wide values and status log, UI descriptions, platform code, stream library,
+name rules) reach no library above them. Exits 1 naming the offending path otherwise.
 
     check_layers.py SOURCE_DIR SCRATCH_DIR
-
-Configures the source tree once more into SCRATCH_DIR with --graphviz and reads the graph:
-the libraries must form layers with no cycle, and the lower layers (the process-wide values
-and status log, the UI descriptions, the platform code, the stream library, the recording
-name rules) must not reach any library above them. Exits 1 and names the offending path otherwise.
 """
 import os
 import re
@@ -19,33 +16,23 @@ LOWER = {"tavoric_core", "tavoric_ui", "tavoric_platform", "tavoric_kdxstream", 
 
 
 def read_graph(dot_path):
-    """The project's libraries and their direct links, from CMake's dot file."""
-    names = {}
-    edges = {}
-    node = re.compile(r'^\s*"(node\d+)" \[ label = "([^"]+)"')
-    edge = re.compile(r'^\s*"(node\d+)" -> "(node\d+)"')
+    """The project's libraries and their direct links, from CMake's dot file (executables,
+    which sit on top, are left out)."""
     with open(dot_path, encoding="utf-8") as dot:
         lines = dot.readlines()
-    for line in lines:
-        match = node.match(line)
-        if match:
-            names[match.group(1)] = match.group(2)
-    for line in lines:
-        match = edge.match(line)
-        if not match:
-            continue
+    names = dict(m.groups() for m in map(re.compile(r'^\s*"(node\d+)" \[ label = "([^"]+)"').match,
+                                         lines) if m)
+    edges = {}
+    for match in filter(None, map(re.compile(r'^\s*"(node\d+)" -> "(node\d+)"').match, lines)):
         source, target = names.get(match.group(1)), names.get(match.group(2))
         if source and target and source.startswith(PREFIX) and target.startswith(PREFIX):
             edges.setdefault(source, set()).add(target)
-    libraries = {name for name in names.values() if name.startswith(PREFIX)}
-    # Executables (the program, tests, benchmarks) sit on top and are not part of the layers.
-    return libraries, edges
+    return {name for name in names.values() if name.startswith(PREFIX)}, edges
 
 
 def find_cycle(libraries, edges):
     """A list of libraries forming a cycle, or None."""
-    state = {}
-    stack = []
+    state, stack = {}, []
 
     def visit(library):
         state[library] = "open"
@@ -53,26 +40,23 @@ def find_cycle(libraries, edges):
         for target in sorted(edges.get(library, ())):
             if state.get(target) == "open":
                 return stack[stack.index(target):] + [target]
-            if target not in state:
-                found = visit(target)
-                if found:
-                    return found
+            found = visit(target) if target not in state else None
+            if found:
+                return found
         stack.pop()
         state[library] = "done"
         return None
 
     for library in sorted(libraries):
-        if library not in state:
-            found = visit(library)
-            if found:
-                return found
+        found = visit(library) if library not in state else None
+        if found:
+            return found
     return None
 
 
 def reach_above(library, edges):
     """A path from a lower library to one above the lower layers, or None."""
-    seen = set()
-    paths = [[library]]
+    seen, paths = set(), [[library]]
     while paths:
         path = paths.pop()
         for target in sorted(edges.get(path[-1], ())):
@@ -100,20 +84,14 @@ def main():
     if missing or len(libraries) < 8:
         sys.exit("check_layers: the graph lacks libraries it must have: %s (found %s)" %
                  (sorted(missing), sorted(libraries)))
-
-    failures = []
     cycle = find_cycle(libraries, edges)
-    if cycle:
-        failures.append("cycle: " + " -> ".join(cycle))
-    for library in sorted(LOWER):
-        path = reach_above(library, edges)
-        if path:
-            failures.append("lower library links upwards: " + " -> ".join(path))
+    failures = ["cycle: " + " -> ".join(cycle)] if cycle else []
+    failures += ["lower library links upwards: " + " -> ".join(path)
+                 for path in filter(None, (reach_above(lib, edges) for lib in sorted(LOWER)))]
     for library in sorted(libraries):
         print("%-22s -> %s" % (library, ", ".join(sorted(edges.get(library, ()))) or "-"))
     if failures:
-        print("\n".join(failures))
-        sys.exit(1)
+        sys.exit("\n".join(failures))
     print("%d libraries, no cycle, lower layers link only lower layers" % len(libraries))
 
 

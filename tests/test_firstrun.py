@@ -27,17 +27,8 @@ FRONT_CHANNEL_FILE = os.path.join(PLAYBACK, "20240301_090000_INF_1.mp4")
 
 def parse_ppm(ppm):
     """Width, height and RGB bytes of a binary PPM (P6) picture."""
-    # Header: magic, width, height, maximum, then one byte of white space.
-    fields, index = [], 0
-    while len(fields) < 4:
-        while ppm[index:index + 1].isspace():
-            index += 1
-        end = index
-        while not ppm[end:end + 1].isspace():
-            end += 1
-        fields.append(ppm[index:end])
-        index = end
-    return int(fields[1]), int(fields[2]), ppm[index + 1:]
+    header = re.match(rb"P6\s+(\d+)\s+(\d+)\s+\d+\s", ppm)
+    return int(header.group(1)), int(header.group(2)), ppm[header.end():]
 
 
 class Screen:

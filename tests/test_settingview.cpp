@@ -4,7 +4,6 @@
 #include "CardDrives.h"
 #include "CardFixture.h"
 #include "ConfigAccess.h"
-#include "JsonToSetting.h"
 #include "SettingOpt.h"
 #include "SettingView.h"
 #include "TavPrompt.h"
@@ -88,50 +87,6 @@ private slots:
             CardFixture::configBin("RAVEN1_2CH", CardFixture::blocks(m_widths, values))));
         ConfigAccess::cardRoot = m_card;
         CardDrives::setValidatedRoot(m_card);
-    }
-
-    void descriptionsBecomeTrees() {
-        const QString path = m_dir.filePath("Setting.json");
-        CardFixture::writeFile(path, R"({
-            "A_1": {"Camera": {"One": {"type": 2, "row": 1, "enable": true, "initial": 4,
-                                       "text": "hint", "link": "Two",
-                                       "item": [{"name": "x", "value": 3}, {"name": "y", "value": 4}]},
-                               "Two": {"type": 1, "row": 0, "enable": 1}},
-                    "System": {"Three": {"type": 0, "row": 0, "enable": "true"}}},
-            "B_1": {"Memory": {}}})");
-        JsonToSetting::descriptionPath = path;
-        JsonToSetting settings;
-        settings.openFile();
-        QVERIFY(settings.getItem().isEmpty());
-        settings.setModel("A_1");
-        const SettingTrees trees = settings.getItem();
-        QCOMPARE(trees.size(), 2);
-        QCOMPARE(trees[0].name, QString("Camera"));
-        QCOMPARE(trees[1].name, QString("System"));
-        const SettingRecord one = trees[0].settings[0];
-        QCOMPARE(one.name, QString("One"));
-        QCOMPARE(one.row, 1);
-        QVERIFY(one.enable);
-        QCOMPARE(one.initial, 4);
-        QCOMPARE(one.text, QString("hint"));
-        QCOMPARE(one.link, QString("Two"));
-        QCOMPARE(one.choices.size(), 2);
-        QCOMPARE(one.choices[1].name, QString("y"));
-        QCOMPARE(one.choices[1].value, 4);
-        const SettingRecord two = trees[0].settings[1];
-        QVERIFY(!two.enable); // 1 is not true
-        QCOMPARE(two.initial, -1);
-        QVERIFY(two.choices.isEmpty() && two.text.isEmpty() && two.link.isEmpty());
-        QVERIFY(!trees[1].settings[0].enable); // neither is "true"
-        QVERIFY(settings.isCameraTreeExist() && settings.isSystemTreeExist());
-        QVERIFY(!settings.isSensitiveTreeExist() && !settings.isMemoryTreeExist() &&
-                !settings.isVoltageTreeExist());
-        // An unknown model keeps the one chosen before.
-        settings.setModel("A_");
-        QCOMPARE(settings.getItem().size(), 2);
-        settings.setModel("B_1");
-        QVERIFY(settings.isMemoryTreeExist() && !settings.isCameraTreeExist());
-        JsonToSetting::descriptionPath.clear();
     }
 
     void shippedDescriptionsMatchTheConfigLayouts() {

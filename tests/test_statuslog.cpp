@@ -29,8 +29,9 @@ private slots:
         QFile::remove(AppGlobals::statusLogPath());
     }
 
-    void linesCarryTimeLevelAndMessage() {
-        // 1,700,000,000,005 ms: five milliseconds into a second.
+    // Each writer appends a line of time (to the millisecond), its marker and the message,
+    // below what an earlier run left, with a bare line feed.
+    void everyWriterAppendsItsLine() {
         const std::string line = StatusLogWriter::formatLine(
             StatusLogWriter::Info, "[Main]: Program is run.", 1700000000005LL);
         QVERIFY2(QRegularExpression(
@@ -38,12 +39,11 @@ private slots:
                      .match(QString::fromStdString(line))
                      .hasMatch(),
                  line.c_str());
-        QCOMPARE(
-            StatusLogWriter::formatLine(StatusLogWriter::Error, "m", 1700000000042LL).substr(8),
-            std::string(".042:: [e] m\n"));
-    }
-
-    void everyWriterAppendsItsMarker() {
+        {
+            QFile old(AppGlobals::statusLogPath());
+            QVERIFY(old.open(QIODevice::WriteOnly));
+            old.write("earlier run\n");
+        }
         logError("%s %d", "error", 1);
         logWarning("warning");
         logInfo("info");
@@ -52,12 +52,12 @@ private slots:
         const QByteArray text = logContents();
         QVERIFY(!text.contains('\r'));
         const QList<QByteArray> lines = text.split('\n');
-        QCOMPARE(lines.size(), 6); // five lines and the empty rest after the last LF
-        QVERIFY(lines.last().isEmpty());
+        QCOMPARE(lines.size(), 7); // the earlier line, five lines and the empty rest
+        QCOMPARE(lines[0], QByteArray("earlier run"));
         const char* expected[] = {":: [e] error 1", ":: [w] warning", ":: [i] info",
                                   ":: [l] Complete! ", ":: [d] MainWindow::onShowFilelist"};
         for (int i = 0; i < 5; ++i)
-            QCOMPARE(lines[i].mid(12), QByteArray(expected[i]));
+            QCOMPARE(lines[i + 1].mid(12), QByteArray(expected[i]));
     }
 
     void writersBelowTheLevelStaySilent() {
@@ -80,18 +80,6 @@ private slots:
         const QByteArray message = text.mid(19, text.size() - 20); // after time and marker
         QCOMPARE(message.size(), int(StatusLogWriter::kMessageBufferSize) - 1);
         QCOMPARE(message.count('x'), 1023);
-    }
-
-    void appendsToAnExistingLog() {
-        {
-            QFile old(AppGlobals::statusLogPath());
-            QVERIFY(old.open(QIODevice::WriteOnly));
-            old.write("earlier run\n");
-        }
-        logInfo("next run");
-        const QByteArray text = logContents();
-        QVERIFY(text.startsWith("earlier run\n"));
-        QVERIFY(text.endsWith(":: [i] next run\n"));
     }
 
     void unwritableLogLosesTheLineQuietly() {
