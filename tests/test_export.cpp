@@ -134,8 +134,7 @@ class TestExport : public QObject {
         return view;
     }
 
-    // Chooses video or snapshots, the folder and (for video) the kind of file, and saves;
-    // waits until the dialog is done with it.
+    // Chooses video or snapshots, the folder and kind of file, saves, and waits for the end.
     void save(SaveAsView* view, const QString& mode, const QString& folder,
               const QString& container = QString()) {
         view->findChild<QPushButton*>(mode)->click();
@@ -149,8 +148,7 @@ class TestExport : public QObject {
         QTRY_VERIFY_WITH_TIMEOUT(m_messages.size() > before, 60000);
     }
 
-    // A playing recording at 65 s of 100 s whose telemetry has 100 samples; sample 65 says
-    // where the car is.
+    // A recording paused at 65 s of 100 s; telemetry sample 65 says where the car is.
     void playRecording() {
         PlayerInterface::currentFile = "/cards/DCIM/20240301_090000_INF_1.mp4";
         PlayerInterface::playStatus = PlayerInterface::PlayPaused;
@@ -262,9 +260,7 @@ private slots:
         QCOMPARE(FfmpegProgress::parseTime("N/A"), qint64(-1));
     }
 
-    // Camera 2 of a separate-file recording (its own file) and every track of a one-file
-    // recording ("0:v:N", the sound made AAC), in both kinds of file, into a new folder: the
-    // picture copied as it is, each copy with its own camera's colour.
+    // Camera 2 of separate files and every track of one file, as MP4 and AVI, in colour.
     void savesTheChosenCameras_data() {
         QTest::addColumn<QString>("recording");
         QTest::addColumn<QList<int>>("cameras");
@@ -323,8 +319,7 @@ private slots:
         delete view;
     }
 
-    // ffmpeg that fails: its last error line is reported, no file is left, and a file that was
-    // at the output's place is there again as it was.
+    // A failing ffmpeg: its last error is told, and what was at the output's place stays.
     void failureIsReportedAndNothingIsLost() {
         QTemporaryDir bin;
         QTemporaryDir out;
@@ -394,8 +389,7 @@ private slots:
         delete view;
     }
 
-    // Snapshots: one JPEG per checked camera, named after the recording, the camera and the
-    // position, with the camera's picture.
+    // One JPEG per checked camera, named after recording, camera and position.
     void snapshotsOfTheCheckedCameras() {
         QTemporaryDir out;
         SaveAsView* view = open(kTracks, 3, {0, 2});
@@ -526,8 +520,7 @@ private slots:
         QVERIFY(!two.findChild<QRadioButton*>("item3")->isEnabled());
     }
 
-    // Every line with its label and value, the speed in the chosen unit, the camera's
-    // picture above the map.
+    // Every line with its value, the speed in the chosen unit, the picture above the map.
     void pdfOfTheReport_data() {
         QTest::addColumn<int>("unit");
         QTest::addColumn<QString>("speedLine");

@@ -63,8 +63,7 @@ class TestFileFormat : public QObject {
 
     QString toolLog() const { return CardFixture::readFile(m_base + "/tool.log"); }
 
-    // A fresh card for each case: configuration, a second CONFIG file, recordings, a link to
-    // a folder outside the card, and an image formatted before with another label.
+    // A fresh card: configuration, recordings, a link to a folder outside, an old label.
     void makeCard(const QString& name) {
         m_base = m_dir.filePath(name);
         m_image = m_base + "/card.img";

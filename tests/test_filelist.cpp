@@ -57,8 +57,7 @@ class TestFileList : public QObject {
     QStringList m_questions;
     bool m_answer = false;
 
-    // An empty file under a recording name: enough for everything but lengths and pictures.
-    // Recordings whose channel files must not meet others' get a folder of their own.
+    // An empty file under a recording name, in a folder of its own where need be.
     QString touch(const QString& name, const QString& folder = QStringLiteral("names")) {
         QDir().mkpath(m_dir.filePath(folder));
         const QString path = m_dir.filePath(folder + '/' + name);
@@ -109,8 +108,7 @@ class TestFileList : public QObject {
         QCoreApplication::processEvents();
     }
 
-    // Six recordings of one morning, one of each type and two Parking ones, in name order;
-    // the first has three cameras and the first Parking one two. Their front files.
+    // Front files of six recordings, each type, two Parking; three cameras, then two.
     QStringList morning() {
         QStringList paths;
         const QList<QPair<QString, int>> recordings{
@@ -294,8 +292,7 @@ private slots:
     }
 
     void channelFilesOfARecordingAreOneRow() {
-        // A card's morning: three, two and one cameras, a rear camera alone, a recording
-        // with its cameras in one file, and two AVI cameras, which the player opens alone.
+        // Three, two and one cameras, a rear one alone, a one-file recording, two AVI cameras.
         const QString folder = m_dir.filePath("morning");
         channels("morning", "20240612_081502_INF", {1, 2, 3});
         channels("morning", "20240612_081642_INF", {1, 2});
@@ -321,8 +318,7 @@ private slots:
         for (int row = 0; row < records.size(); ++row)
             QCOMPARE(records.at(row).cameraCount, shownCameras(list).at(row));
 
-        // The player gets the front camera's file, or the lowest camera there is, and finds
-        // the others beside it; the row's length is that file's.
+        // The player gets the front file (or the lowest camera's); the row's length is its.
         QCOMPARE(records.at(0).filePath, folder + "/20240612_081502_INF_1.mp4");
         QCOMPARE(records.at(0).channelFiles, (QStringList{folder + "/20240612_081502_INF_1.mp4",
                                                           folder + "/20240612_081502_INF_2.mp4",
@@ -406,8 +402,7 @@ private slots:
         QSignalSpy stop(&list, &TavFileListItem::onSendStop);
         // A camera's file copied in after the listing belongs to the recording too.
         drive << touch("20240612_090000_INF_3.mp4", "deleting");
-        // A file that cannot go: the parked rear camera's file has become a folder with
-        // something in it since it was listed.
+        // A file that cannot go: it has become a folder with something in it.
         QVERIFY(QFile::remove(parked.at(1)));
         QVERIFY(QDir().mkpath(parked.at(1) + "/inside"));
         select(list, {0, 1});

@@ -104,8 +104,7 @@ private slots:
         QCOMPARE(TavFileListItem::visibleRows, QVector<int>({6}));
     }
 
-    // A copied card with its type folders is opened as one folder: the recordings of
-    // "Normal", "Event" and "Parking" are listed, those of another folder ("Action") are not.
+    // A copied card: the type folders' recordings are listed, another folder's are not.
     void parentOfTypeFoldersListsTheirRecordings() {
         TavFileListItem list;
         list.loadPaths({kCameras});
@@ -119,8 +118,7 @@ private slots:
                               "20240612_081614_EVT", "20240612_123000_PRK"}));
     }
 
-    // Three cameras named by their letters play together, with the route and the trace of
-    // NMEA sentences in freeGPS blocks.
+    // Three lettered cameras play together, with NMEA sentences from freeGPS blocks.
     void channelFilesPlayTogetherWithTelemetry() {
         play(kCameras + "Normal/REC_2024_06_12_08_15_26_F.MP4");
         QCOMPARE(m_player->engine()->GetChannelCount(), 3);

@@ -46,19 +46,20 @@ std::string sentence(const std::string& body) {
 
 // --- GPMF ---
 
-void put16(Bytes& out, unsigned value) {
-    out.push_back(std::uint8_t(value >> 8));
-    out.push_back(std::uint8_t(value));
-}
-void put32(Bytes& out, std::uint32_t value) {
-    put16(out, value >> 16);
-    put16(out, value & 0xffff);
+// Big-endian values of `width` bytes each.
+Bytes be(int width, std::initializer_list<long long> values) {
+    Bytes out;
+    for (long long value : values)
+        for (int shift = 8 * (width - 1); shift >= 0; shift -= 8)
+            out.push_back(std::uint8_t(value >> shift));
+    return out;
 }
 Bytes klv(const char* key, char type, unsigned structSize, unsigned repeat, const Bytes& data) {
     Bytes out(key, key + 4);
     out.push_back(std::uint8_t(type));
     out.push_back(std::uint8_t(structSize));
-    put16(out, repeat);
+    const Bytes count = be(2, {repeat});
+    out.insert(out.end(), count.begin(), count.end());
     out.insert(out.end(), data.begin(), data.end());
     while (out.size() % 4 != 0)
         out.push_back(0);
@@ -70,36 +71,23 @@ Bytes nest(const char* key, const std::vector<Bytes>& entries) {
         data.insert(data.end(), entry.begin(), entry.end());
     return klv(key, '\0', 1, unsigned(data.size()), data);
 }
-Bytes int32s(std::initializer_list<std::int32_t> values) {
-    Bytes out;
-    for (std::int32_t v : values)
-        put32(out, std::uint32_t(v));
-    return out;
-}
-Bytes int16s(std::initializer_list<int> values) {
-    Bytes out;
-    for (int v : values)
-        put16(out, unsigned(v) & 0xffff);
-    return out;
-}
 Bytes text(const char* value) {
     return Bytes(value, value + std::strlen(value));
 }
 
 // One device with a GPS5 stream (2 positions) and an ACCL stream (2 readings).
 Bytes gpmfSample(int gpsFix = 3, const char* orientation = nullptr) {
-    std::vector<Bytes> accel{klv("SCAL", 's', 2, 1, int16s({100}))};
+    std::vector<Bytes> accel{klv("SCAL", 's', 2, 1, be(2, {100}))};
     if (orientation != nullptr)
         accel.insert(accel.begin(), klv("ORIN", 'c', 3, 1, text(orientation)));
-    accel.push_back(klv("ACCL", 's', 6, 2, int16s({981, -196, 0, 0, 0, 1962})));
-    return nest(
-        "DEVC",
-        {klv("DVID", 'L', 4, 1, int32s({1})), nest("STRM", accel),
-         nest("STRM", {klv("GPSF", 'L', 4, 1, int32s({gpsFix})),
-                       klv("SCAL", 'l', 4, 5, int32s({10000000, 10000000, 1000, 1000, 100})),
-                       klv("GPS5", 'l', 20, 2,
-                           int32s({374853000, 1271162000, 30000, 10000, 1000, -374854000,
-                                   -1271164000, 31000, 20000, 2000}))})});
+    accel.push_back(klv("ACCL", 's', 6, 2, be(2, {981, -196, 0, 0, 0, 1962})));
+    return nest("DEVC",
+                {klv("DVID", 'L', 4, 1, be(4, {1})), nest("STRM", accel),
+                 nest("STRM", {klv("GPSF", 'L', 4, 1, be(4, {gpsFix})),
+                               klv("SCAL", 'l', 4, 5, be(4, {10000000, 10000000, 1000, 1000, 100})),
+                               klv("GPS5", 'l', 20, 2,
+                                   be(4, {374853000, 1271162000, 30000, 10000, 1000, -374854000,
+                                          -1271164000, 31000, 20000, 2000}))})});
 }
 
 // --- freeGPS ---
@@ -116,7 +104,6 @@ void putLeFloat(Bytes& block, std::size_t at, float value) {
 
 Bytes freeGpsHead() {
     Bytes block(0x8000, 0);
-    block[1] = 0;
     block[2] = 0x80;
     std::memcpy(block.data() + 4, "freeGPS ", 8);
     block[12] = 0x4c;
@@ -230,8 +217,7 @@ QVector<Oracle> exifToolPositions(const QString& path, bool unknownTags = false)
             continue;
         const QString tag = match.captured(2), value = match.captured(3);
         if (tag == QLatin1String("GoPro_GPS9")) {
-            // Entries of latitude, longitude, altitude, 2-D and 3-D speed, days, seconds,
-            // DOP and fix, one after another.
+            // Latitude, longitude, altitude, 2-D and 3-D speed, days, seconds, DOP, fix.
             for (const QString& entry : value.split(QStringLiteral(", "))) {
                 const QStringList fields = numbers(entry);
                 if (fields.size() != 9)
@@ -333,8 +319,7 @@ constexpr double kKmh = 1e-9;
 class TestForeignTelemetry : public QObject {
     Q_OBJECT
 
-    // Ours against ExifTool's, reading by reading. speedFactor brings ExifTool's speed to
-    // km/h.
+    // Ours against ExifTool's, reading by reading; speedFactor makes its speed km/h.
     void comparePositions(const Read& read, const QVector<Oracle>& oracle, double speedFactor) {
         QVERIFY2(!oracle.isEmpty(), "ExifTool read nothing");
         QCOMPARE(int(read.positions.size()), oracle.size());
@@ -371,8 +356,7 @@ private slots:
     }
 
     void sentencesThatAreNoFixOrBroken() {
-        // A warning status, no fix quality, a checksum that does not match, minutes of 60,
-        // a latitude beyond the pole, a cut sentence, another sentence type, garbage.
+        // No fix, bad checksum, minutes 60, beyond the pole, cut, another type, garbage.
         const std::string rejected[] = {
             sentence("GPRMC,081502.00,V,3729.1206,N,12706.9738,E,0.0,0.0,120624,,,N"),
             sentence("GPGGA,081502.00,3729.1206,N,12706.9738,E,0,00,,,M,,M,,"),
@@ -442,8 +426,8 @@ private slots:
         QVERIFY(!kdx::GpmfParser::parse(bytes.data(), bytes.size() / 2, sample));
         QVERIFY(!kdx::GpmfParser::parse(bytes.data(), 7, sample));
         // A scale of 0 divides nothing.
-        bytes = nest("DEVC", {nest("STRM", {klv("SCAL", 's', 2, 1, int16s({0})),
-                                            klv("ACCL", 's', 6, 1, int16s({1, 2, 3}))})});
+        bytes = nest("DEVC", {nest("STRM", {klv("SCAL", 's', 2, 1, be(2, {0})),
+                                            klv("ACCL", 's', 6, 1, be(2, {1, 2, 3}))})});
         sample = {};
         QVERIFY(kdx::GpmfParser::parse(bytes.data(), bytes.size(), sample));
         QVERIFY(sample.accelerations.empty());
@@ -451,8 +435,7 @@ private slots:
 
     // --- freeGPS ---
 
-    // The blocks compared with ExifTool are all north and east: here south and west (the
-    // layouts share the hemisphere letters), and the NMEA block's satellites.
+    // South and west (the files are north and east), and the NMEA block's satellites.
     void freeGpsHemispheresAndSatellites() {
         TelemetryReading reading;
         Bytes block = floatBlock();
@@ -466,8 +449,7 @@ private slots:
         QCOMPARE(reading.gpsFlags >> 2, 3u); // nine satellites
     }
 
-    // Each layout's block is read as that layout only: an integer block read as floats
-    // would put the car anywhere on earth.
+    // A block is read as its own layout only, never as another one.
     void blocksAreNeverReadAsAnotherLayout() {
         using Layout = kdx::FreeGpsBlock::Layout;
         QCOMPARE(kdx::FreeGpsBlock::layoutOf(integerBlock().data(), 0x8000), Layout::Integer);
@@ -479,8 +461,7 @@ private slots:
             kdx::GpmfParser::Sample sample;
             QVERIFY(!kdx::GpmfParser::parse(block.data(), block.size(), sample));
         }
-        // The NMEA text of a block is no sentence of the box or track sources on its own
-        // (those read only boxes and tracks), and a float block holds no sentence.
+        // A float block holds no sentence for the box and track sources.
         QVERIFY(!kdx::NmeaParser::containsSentence(
             reinterpret_cast<const char*>(floatBlock().data()), 0x8000));
 
@@ -516,8 +497,7 @@ private slots:
     }
 
     void lostFixIsNotShownAsTheLastPosition() {
-        // Fixes at 0 and 8 s, a reading without a fix at 0.5 s: the first fix stands until
-        // then; without any reading the hold ends after two seconds.
+        // Fixes at 0 and 8 s, none at 0.5 s; without readings a hold ends after 2 s.
         const auto frames = grid({position(0, 10), position(500, 11, 0), position(8000, 12)}, 9000);
         QVERIFY(hasPosition(frames[4]));
         QVERIFY(!hasPosition(frames[5]));
@@ -556,8 +536,7 @@ private slots:
         row("freeGPS integers", "freegps_integer.mp4", "", "freeGPS", 1.0, 3);
         row("freeGPS NMEA", "freegps_nmea.mp4", "", "freeGPS", 1.0, 3);
         row("NMEA text track", "nmea_text.mov", "", "NMEA text", 1.0, 3);
-        // ExifTool reads NMEA only from QuickTime text tracks; the same sentences in a
-        // subtitle track are compared with its reading of the text track.
+        // ExifTool reads NMEA in text tracks only: the subtitle track is compared to that.
         row("NMEA subtitle track", "nmea_subtitle.mp4", "nmea_text.mov", "NMEA text", 1.0, 3);
         row("NMEA udat box", "nmea_udat.mp4", "", "NMEA box", 1.0, 3);
         row("NMEA free/gps box", "nmea_free.mp4", "", "NMEA box", 1.0, 3);
@@ -575,8 +554,7 @@ private slots:
         // ExifTool 12.57 knows GPS9 only as an unknown tag.
         QVector<Oracle> oracle = exifToolPositions(
             kMedia + (oracleFile.isEmpty() ? file : oracleFile), file.contains("gps9"));
-        // ExifTool reports a freeGPS block without a fix as a reading at 0, 0 (and Perl's
-        // warnings); we take no reading from it.
+        // ExifTool reports a block without a fix at 0, 0; we take no reading from it.
         oracle.erase(
             std::remove_if(oracle.begin(), oracle.end(),
                            [](const Oracle& o) { return o.latitude == 0 && o.longitude == 0; }),
@@ -593,8 +571,7 @@ private slots:
         }
     }
 
-    // GPMF accelerations are stored in m/s² in the order the stream names (ORIN: "ZXY" in
-    // the GPS9 file); ours are g in X, Y, Z.
+    // GPMF stores m/s² in the stream's axis order (ORIN); ours are g in X, Y, Z.
     void gpmfAccelerationsAgreeWithExifTool_data() {
         QTest::addColumn<QString>("file");
         QTest::addColumn<QVector<int>>("storedAxis"); // our axis of stored value 0, 1, 2
@@ -668,8 +645,7 @@ private slots:
         QCOMPARE(int(frames(file, &info).size()), 40);
     }
 
-    // A checksum that does not match costs that sentence only: the GGA of the same second
-    // still gives the position, without the speed only RMC has.
+    // A bad checksum costs its sentence only: the GGA still places the car, without speed.
     void brokenSentenceLeavesItsPartner() {
         const Read read(QStringLiteral("corrupt_nmea_text.mov"));
         QCOMPARE(int(read.positions.size()), 2);
@@ -678,8 +654,7 @@ private slots:
         QCOMPARE(read.positions[1].timeMs, qint64(2000));
     }
 
-    // What the player gets: a frame every 100 ms over the whole recording, positions in
-    // km/h as read, positions without a fix left out.
+    // A frame every 100 ms, positions as read, positions without a fix left out.
     void framesCoverTheRecording() {
         KDXInfo info{};
         const std::vector<KDXTextFrame> gps9 = frames(QStringLiteral("gpmf_gps9.mp4"), &info);

@@ -97,8 +97,7 @@ private slots:
         auto* raw = reinterpret_cast<KDXFrameDescriptor*>(descriptor);
         for (int i = 0; i <= 12; ++i)
             QCOMPARE(KDXReaderReadFrame(file.reader, raw), KDX_OK);
-        // Sample 12 of the test pattern: the hard-braking spike (its other values by offset
-        // are checked through the player's reader).
+        // Sample 12: the hard-braking spike.
         QCOMPARE(floatAt(buffer.data(), 40), -1.25f);
         QCOMPARE(buffer[128], static_cast<unsigned char>(0xCD)); // nothing past the frame
         QCOMPARE(wordAt(descriptor, 8), 128u);                   // bytes written

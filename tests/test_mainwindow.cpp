@@ -59,8 +59,7 @@ private slots:
         QVERIFY(child<QWidget>("WaitPlayLogo")->isVisible());
         for (const char* name : {"bFolder", "bMemory", "bSetting", "bAbout"})
             QVERIFY2(child<QPushButton>(name)->isVisible(), name);
-        // The top bar spans the window with the close button at its right edge; the list
-        // panel keeps its width and grows in height; the chart fills the panel's place for it.
+        // The top bar and close button follow, the list panel grows in height only.
         m_window->resize(1600, 900);
         QTRY_COMPARE(child<TopBar>("topBar")->width(), 1600);
         QCOMPARE(child<QPushButton>("bClose")->geometry().right(), 1599);
@@ -184,8 +183,7 @@ private slots:
         QCOMPARE(changed.count(), 0);
         QVERIFY(dialog.isVisible());
 
-        // Korean: the translation is swapped, the signal goes out, the dialog closes, and
-        // the main window's views re-read their texts.
+        // Korean: the dialog closes and the main window's views re-read their texts.
         connect(&dialog, &LanguageView::onSendChangeLanguage, m_window,
                 &MainWindow::onSendChangeLanguage);
         combo->setCurrentIndex(1);

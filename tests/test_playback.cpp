@@ -249,8 +249,7 @@ private slots:
         open(kBars);
         m_player->onControlSpeed(7); // not a speed: ignored
         QCOMPARE(PlayerInterface::speedIndex, 2);
-        // The same stretch of the clock at normal and at double speed, so that a slow
-        // machine slows both; the player's clock moves in steps of about 250 ms.
+        // The same stretch at both speeds, so that a slow machine slows both.
         auto advanceOver = [this](int ms) {
             QTest::qWait(400);
             const double start = engine()->GetCurrentPos();
@@ -267,8 +266,7 @@ private slots:
         m_player->onControlSpeed(2);
     }
 
-    // Every channel starts, moves, steps and changes speed together: the cameras show the
-    // same moment throughout.
+    // The cameras show the same moment through starts, moves, steps and speeds.
     void channelsShowTheSameFrame() {
         open(kBars);
         QTest::qWait(700);
@@ -303,8 +301,7 @@ private slots:
         m_player->onControlSpeed(2);
     }
 
-    // A recording stopped before its cameras were let go leaves nothing behind for the next:
-    // one with fewer cameras starts without waiting for a camera it does not have.
+    // A stop while starting leaves nothing for a next recording with fewer cameras.
     void stopWhileStartingThenFewerCameras() {
         QByteArray path = kSplit.toUtf8();
         engine()->IsSplitChannelFile(path.constData());
@@ -322,8 +319,7 @@ private slots:
                  "the start waited for a camera the recording does not have");
     }
 
-    // The recording without its second camera's file, opened while another plays: its
-    // third camera plays in the first rear player.
+    // Without its second camera's file, opened while another plays: 3rd in the 1st rear.
     void openingAnotherFileWhilePlaying() {
         open(kSplit);
         QSignalSpy complete(m_player, &PlayerInterface::onSendSetPlayButton);

@@ -101,8 +101,7 @@ private slots:
         QCOMPARE(volume()->value(), 40);
         QCOMPARE(PlayerInterface::volume, 40);
 
-        // Wider windows stretch the slider, keep the right-hand buttons at the edge and the
-        // transport buttons together in the middle.
+        // Wider: the slider stretches, the right buttons stay at the edge, play in the middle.
         m_panel->resize(1290, 96);
         QCOMPARE(slider()->width(), 830 + 300);
         QCOMPARE(child("bDelete")->geometry().right(), 1290 - 13);
@@ -423,8 +422,7 @@ private slots:
         wheel(&window, at, 120);
         QCOMPARE(window.zoomLevel(), 4);
         QCOMPARE(scene->geometry(), QRect(-100, -50, 800, 600));
-        // The picture point under the cursor has not moved: (100, 50) in the window shows
-        // scene point (200, 100), which is (100, 50) of the unzoomed picture.
+        // The picture point under the cursor stays there.
         QCOMPARE(scene->mapFromParent(at) / 2, at);
         QCOMPARE(resized.last().at(1).toSize(), QSize(800, 600));
 

@@ -141,8 +141,7 @@ private slots:
 
     void commandLineFolderPlaysTheFirstRecording() {
         m_window->openPaths({kMedia});
-        // One row per recording: three cameras in three files, two in two, three in one file
-        // (its count comes with its length).
+        // One row per recording; a one-file recording's count comes with its length.
         QCOMPARE(TavFileListItem::records.size(), 3);
         QTRY_COMPARE_WITH_TIMEOUT(TavFileListItem::records.at(2).cameraCount, 3, 10000);
         QCOMPARE(TavFileListItem::records.at(0).cameraCount, 3);
@@ -186,8 +185,7 @@ private slots:
         QCOMPARE(frameNumberSide(m_main, true), 1);
         QCOMPARE(frameNumberSide(m_rear2, false), 1);
         QCOMPARE(PlayerInterface::playStatus, int(PlayerInterface::PlayPaused));
-        // Still paused: the mirrored player comes to rest (it may play a moment to draw its
-        // first picture) and stays there.
+        // Still paused: the mirrored player comes to rest after drawing its first picture.
         VLCComponent* engine = m_window->player()->engine();
         double rearTime = -1;
         QTRY_VERIFY_WITH_TIMEOUT(
@@ -208,8 +206,7 @@ private slots:
         QTRY_COMPARE_WITH_TIMEOUT(frameNumberSide(m_main, true), -1, 5000);
         QVERIFY(isRed(screenColour(m_main)));
 
-        // Capture offers the picture of every camera as it is shown, mirrored or not, and
-        // saves the chosen ones.
+        // Capture saves every camera's picture as shown, mirrored or not.
         QTemporaryDir pictures;
         QStringList messages;
         TavPrompt::informHook = [&messages](const QString& text) { messages << text; };
@@ -307,8 +304,7 @@ private slots:
         m_window->onBlockEvent(false);
     }
 
-    // The play control panel follows the player through the main window's own routes: the
-    // slider runs, stands still while paused, and a release on it seeks there.
+    // The panel follows the player through the main window's routes.
     void panelFollowsPlayback() {
         auto* bar = m_window->findChild<TavPlaySlider*>("playBar");
         auto* button = m_window->findChild<TavPlayButton*>("bPlay");
@@ -334,8 +330,7 @@ private slots:
     }
 
     void stepBackAtTheVeryStartLeavesTheWindowUsable() {
-        // Back past the start of the first recording: there is no previous one. The player
-        // stops at the logo, says so, and takes input again.
+        // Back past the first recording's start: told, stopped at the logo, input taken again.
         QStringList messages;
         TavPrompt::informHook = [&messages](const QString& text) { messages << text; };
         PlayerInterface::currentTime = 0;
@@ -351,8 +346,7 @@ private slots:
     }
 
     void endOfFileSkipsRowsTheFilterHides() {
-        // Event and User only: the Infinity row is hidden while it plays; its end moves on to
-        // the Event row.
+        // Event and User only: the playing Infinity row is hidden; its end plays the Event row.
         m_list->onSortFile(2 | 8);
         QCOMPARE(m_list->currentPosition(), -1);
         QTRY_VERIFY_WITH_TIMEOUT(PlayerInterface::currentFile.endsWith("20240301_091000_EVT_1.mp4"),
@@ -381,9 +375,7 @@ private slots:
     }
 
     void singleFileRecordingShowsEachCameraInItsScene() {
-        // All three cameras are tracks of one file: each scene must show its own track on
-        // the screen (not a window libvlc opens by itself).
-        // Chosen the way a user chooses: a double click on its row.
+        // Tracks of one file, each in its own scene, chosen by a double click.
         m_list->onSortFile(15);
         int row = -1;
         for (int i = 0; i < TavFileListItem::records.size(); ++i) {

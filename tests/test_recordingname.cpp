@@ -172,8 +172,7 @@ private slots:
         QCOMPARE(ChannelFiles::recordingKey("/d/GH010123.MP4"), QString("/d/GH010123.MP4"));
     }
 
-    // One row per recording of another camera, named its way, with the cameras on disk that the
-    // load did not name; the player is handed the front camera's file.
+    // Another camera's recordings: one row each, with the cameras on disk, front file played.
     void foreignChannelFilesMakeOneRow() {
         const QStringList paths{touch("a/REC_2024_06_12_08_15_26_R.MP4"),
                                 touch("a/2024_0612_081502_001F.MP4")};

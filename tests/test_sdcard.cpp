@@ -87,8 +87,7 @@ private slots:
         QStringList roots;
         for (const CardDrives::Drive& drive : drives)
             roots << drive.root;
-        // The fixed disk and the second mount of a card's folder are no drives; a built-in
-        // card slot is one although its medium reports itself fixed.
+        // Not the fixed disk nor a bind mount; a built-in slot although it reports itself fixed.
         QCOMPARE(roots, (QStringList{m_raven, m_bare, m_osprey}));
         QCOMPARE(drives[0].name, QString("RAVEN CARD"));
         QCOMPARE(drives[1].name, QString());

@@ -237,8 +237,7 @@ private slots:
         QVERIFY(!LocalSocket::serviceConnected);
     }
 
-    // A silent service costs that question only; the link stays for the next question, whose
-    // answer reaches the one who asked it alone.
+    // A silent service costs that question only; the next answer reaches only its asker.
     void questionWithoutAnswerThenAnother() {
         QVERIFY(m_service.start({"Version=@silent", "Report=Send_Complete"}));
         QObject owner;
@@ -262,8 +261,7 @@ private slots:
     }
 
     void closeThatTheServiceDoesNotConfirm() {
-        // The service stops reading; a big message fills the socket, so the disconnect has
-        // bytes to deliver first and cannot complete.
+        // The service stops reading and a big message fills the socket: no disconnect completes.
         QVERIFY(m_service.start({"HelloLauncher=HelloClient|@deaf"}));
         QObject owner;
         LocalSocket* link = connectLink(&owner);
@@ -569,8 +567,7 @@ private slots:
         AppGlobals::snapshotPath.clear();
     }
 
-    // The update page asks for a newer version; the crash report page sends the report; the
-    // update check at start and the automatic reports are kept in the agreement.
+    // The update and crash report pages, and the agreement bits they keep.
     void updateAndCrashReportPages_data() {
         QTest::addColumn<QString>("answer");
         QTest::addColumn<bool>("offered");

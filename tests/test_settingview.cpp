@@ -90,8 +90,7 @@ private slots:
     }
 
     void shippedDescriptionsMatchTheConfigLayouts() {
-        // Every setting a camera offers is an item of its config.bin (or a card text), every
-        // choice fits the item's width, and every factory value is one of the choices.
+        // Every setting is a config.bin item (or card text); its choices fit, with the factory one.
         const QJsonObject layouts =
             QJsonDocument::fromJson(
                 CardFixture::readFile(CardFixture::shippedJson("configStr.json")))

@@ -184,8 +184,7 @@ private slots:
         QCOMPARE(storedValue("language").toInt(), 1);
     }
 
-    // A normal end (SIGTERM, as at logout) exits with 0 and removes the log and the data
-    // folder's leftovers; the window's size and place are stored unless the user said not to.
+    // SIGTERM (logout) exits with 0, removes its traces, stores the window unless told not to.
     void normalCloseRemovesItsTraces_data() {
         QTest::addColumn<bool>("keep");
         QTest::newRow("settings kept") << true;

@@ -29,8 +29,7 @@ private slots:
         QFile::remove(AppGlobals::statusLogPath());
     }
 
-    // Each writer appends a line of time (to the millisecond), its marker and the message,
-    // below what an earlier run left, with a bare line feed.
+    // Each writer appends time, marker and message below an earlier run's lines.
     void everyWriterAppendsItsLine() {
         const std::string line = StatusLogWriter::formatLine(
             StatusLogWriter::Info, "[Main]: Program is run.", 1700000000005LL);

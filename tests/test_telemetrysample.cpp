@@ -21,8 +21,7 @@ class TestTelemetrySample : public QObject {
     Q_OBJECT
 
 private slots:
-    // Fields in any order, blanks and a line end around them, unknown fields skipped; FIX
-    // left out is a 3-D fix with a position and none without; the ends of every range.
+    // Any order, blanks, unknown fields; FIX left out: 3-D with a position; range ends.
     void readings_data() {
         QTest::addColumn<QByteArray>("text");
         QTest::addColumn<QVector<float>>("values"); // G x, y, z, latitude, longitude, speed
@@ -63,8 +62,7 @@ private slots:
     }
 
     void malformed() {
-        // The texts, between bars: blank, prose, no G, no GPS, G of two or four values, G twice,
-        // coordinates out of range or alone, number forms, speeds, flags, fields and lines.
+        // Between the bars: missing or repeated fields, out of range, number forms, lines.
         const QByteArray texts =
             "   |garbage text|GPS=37.0,127.0 SPD=3|G=0,0,1 SPD=3|G=0.1,0.2 GPS=-|"
             "G=0.1,0.2,0.3,0.4 GPS=-|G=0,0,0 G=0,0,0 GPS=-|G=0,0,0 GPS=91.0,127.0|"

@@ -132,8 +132,7 @@ private slots:
         const QRect bar = chart.barRect();
         const int middle = bar.y() + bar.height() / 2;
         const int half = bar.height() / 2;
-        // Y (-1) a quarter of the bar below the zero line, Z (0.5) an eighth above it, the
-        // whole way along; X rises from 0 to about 1 g.
+        // Y (-1) a quarter below zero, Z (0.5) an eighth above, along; X rises to 1 g.
         for (int x : {bar.x() + 40, bar.x() + bar.width() / 3, bar.right() - 40}) {
             QVERIFY2(isColour(image.pixel(x, middle + int(half * 0.5)), ChartView::kAxisColours[1]),
                      qPrintable(QString::number(x)));
@@ -170,8 +169,7 @@ private slots:
         QVERIFY(countColour(chart, ChartView::kAxisColours[1]) > 0);
     }
 
-    // A long recording is drawn with far fewer lines, and the picture is the same, pixel for
-    // pixel, as one line per pair of samples.
+    // Far fewer lines for a long recording, the same picture pixel for pixel.
     void longTracesDrawTheSamePicture() {
         const QSize bar(836, 76);
         for (int n : {40, 900, 36000}) {
@@ -321,8 +319,7 @@ private slots:
         QString error;
         QCOMPARE(MapPageCipher::builtInPage(&error), source.readAll());
 
-        // The build's tool and the program's decryption agree, also for a page that fills
-        // its last block (the padding is then a whole block of its own).
+        // The build's tool and the decryption agree, a page filling its last block too.
         QTemporaryDir dir;
         for (int size : {1, 15, 16, 1000}) {
             const QByteArray page(size, 'p');

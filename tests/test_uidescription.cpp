@@ -66,8 +66,7 @@ private slots:
         // Test views live beside the real ones under a name no view uses.
         m_view = QStringLiteral("TestView%1").arg(QCoreApplication::applicationPid());
         m_file = UiDescription().jsonFolder() + m_view + ".json";
-        // The views that ask have style sheets of their own, as the file list does; a dialog
-        // under such a parent must still take the program's look.
+        // A dialog under a parent with its own style sheet still takes the program's look.
         m_window.setStyleSheet(QStringLiteral("QTableWidget{background: #1f232b; color: "
                                               "#c9ced8; border: none;}"));
         m_window.resize(600, 400);
