@@ -47,12 +47,18 @@ struct Probe {
     double duration = 0;
 };
 
+QByteArray output(const QString& program, const QStringList& arguments) {
+    QProcess process;
+    process.start(program, arguments);
+    process.waitForFinished(30000);
+    return process.readAllStandardOutput();
+}
+
 Probe probe(const QString& path) {
-    QProcess ffprobe;
-    ffprobe.start("ffprobe",
-                  {"-v", "error", "-print_format", "json", "-show_streams", "-show_format", path});
-    ffprobe.waitForFinished(30000);
-    const QJsonObject root = QJsonDocument::fromJson(ffprobe.readAllStandardOutput()).object();
+    const QJsonObject root =
+        QJsonDocument::fromJson(output("ffprobe", {"-v", "error", "-print_format", "json",
+                                                   "-show_streams", "-show_format", path}))
+            .object();
     Probe result;
     for (const QJsonValue& stream : root.value("streams").toArray())
         result.codecs << stream.toObject().value("codec_type").toString() + ':' +
@@ -89,16 +95,11 @@ QImage filled(const QColor& colour, const QSize& size) {
 }
 
 QString pdfText(const QString& pdf) {
-    QProcess pdftotext;
-    pdftotext.start("pdftotext", {"-layout", pdf, "-"});
-    pdftotext.waitForFinished(30000);
-    return QString::fromUtf8(pdftotext.readAllStandardOutput());
+    return QString::fromUtf8(output("pdftotext", {"-layout", pdf, "-"}));
 }
 
 QImage pdfPage(const QString& pdf, const QString& folder) {
-    QProcess pdftoppm;
-    pdftoppm.start("pdftoppm", {"-r", "48", "-png", "-singlefile", pdf, folder + "/page"});
-    pdftoppm.waitForFinished(30000);
+    output("pdftoppm", {"-r", "48", "-png", "-singlefile", pdf, folder + "/page"});
     return QImage(folder + "/page.png");
 }
 
@@ -300,18 +301,15 @@ private slots:
         QCOMPARE(QDir(folder).entryList(QDir::Files), names);
         QVERIFY(m_messages.last().contains(QDir::toNativeSeparators(folder + '/' + names[0])));
         for (int i = 0; i < cameras.size(); ++i) {
-            const QString output = folder + '/' + names[i];
-            const Probe copy = probe(output);
+            const Probe copy = probe(folder + '/' + names[i]);
             QCOMPARE(copy.format.contains("mp4"), extension == "mp4");
             QCOMPARE(copy.codecs, codecs);
             QVERIFY2(qAbs(copy.duration - seconds) < 0.2,
                      qPrintable(QString::number(copy.duration)));
             // The cameras are red, green and blue pictures.
-            QProcess frame;
-            frame.start("ffmpeg", {"-v", "error", "-i", output, "-frames:v", "1", "-vf",
-                                   "scale=1:1", "-f", "rawvideo", "-pix_fmt", "rgb24", "-"});
-            QVERIFY(frame.waitForFinished(30000));
-            const QByteArray rgb = frame.readAllStandardOutput();
+            const QByteArray rgb =
+                output("ffmpeg", {"-v", "error", "-i", folder + '/' + names[i], "-frames:v", "1",
+                                  "-vf", "scale=1:1", "-f", "rawvideo", "-pix_fmt", "rgb24", "-"});
             QCOMPARE(rgb.size(), 3);
             QCOMPARE(rgb.indexOf(char(std::max({uchar(rgb[0]), uchar(rgb[1]), uchar(rgb[2])}))),
                      cameras[i]);

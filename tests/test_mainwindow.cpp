@@ -116,14 +116,10 @@ private slots:
         QTRY_VERIFY(!m_window->isFullScreen());
         QTRY_COMPARE(m_window->size(), QSize(1366, 768));
 
-        QSignalSpy onTop(m_window, &MainWindow::onSendAlwaysTopUiChange);
         QTest::mouseClick(child<QPushButton>("bAlwaysTop"), Qt::LeftButton);
         QVERIFY(m_window->windowFlags() & Qt::WindowStaysOnTopHint);
-        QCOMPARE(onTop.last().at(0).toInt(), 1);
-        QVERIFY(child<QPushButton>("bAlwaysTop")->isChecked());
         QTest::mouseClick(child<QPushButton>("bAlwaysTop"), Qt::LeftButton);
         QVERIFY(!(m_window->windowFlags() & Qt::WindowStaysOnTopHint));
-        QVERIFY(!child<QPushButton>("bAlwaysTop")->isChecked());
 
         // Input blocked while a recording opens: the keys wait.
         m_window->onBlockEvent(true);
@@ -197,11 +193,6 @@ private slots:
         QCOMPARE(child<QPushButton>("bFolder")->toolTip(),
                  QCoreApplication::translate("TavShortcutTable", "Open folder"));
         QVERIFY(child<QPushButton>("bFolder")->toolTip() != QString("Open folder"));
-
-        // A stored Hebrew index shows no choice in the box.
-        AppGlobals::languageIndex = 2;
-        LanguageView hebrew(m_window);
-        QCOMPARE(hebrew.findChild<QComboBox*>("comboLanguage")->currentIndex(), -1);
 
         // Back to English for the other tests.
         AppGlobals::languageIndex = 0;

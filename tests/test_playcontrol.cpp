@@ -93,9 +93,6 @@ private slots:
     }
 
     void builtFromItsDescription() {
-        // The chart's place, below the buttons; the main window puts the chart there.
-        QCOMPARE(m_panel->chartArea(), m_panel->findChild<QWidget*>("chartView"));
-        QVERIFY(m_panel->chartArea()->y() > child("bPlay")->mapTo(m_panel, QPoint()).y());
         QCOMPARE(child("bUnit")->text(), QString("Sec"));
         // The volume saved at the last exit, also for the coordinator's next start.
         QCOMPARE(volume()->value(), 40);
@@ -107,7 +104,6 @@ private slots:
         QCOMPARE(child("bDelete")->geometry().right(), 1290 - 13);
         const int middle = play()->mapTo(m_panel, play()->rect().center()).x();
         QVERIFY2(qAbs(middle - 645) < 8, qPrintable(QString::number(middle)));
-        QCOMPARE(child("rewind")->geometry().right() + 5, play()->x());
         m_panel->resize(m_panel->designSize());
     }
 

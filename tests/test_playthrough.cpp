@@ -293,6 +293,7 @@ private slots:
         QTest::keyClick(m_window, Qt::Key_Right); // five seconds on: the end, held there
         QCOMPARE(PlayerInterface::currentTime, PlayerInterface::totalTime);
         QCOMPARE(PlayerInterface::playStatus, int(PlayerInterface::PlayPaused));
+        QCOMPARE(VLCComponent::playerState, int(VLCComponent::Paused));
         QTest::keyClick(m_window, Qt::Key_Home);
         QCOMPARE(PlayerInterface::currentTime, 0.0);
         QTest::keyClick(m_window, Qt::Key_Space);
