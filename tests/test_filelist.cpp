@@ -564,6 +564,39 @@ private slots:
         QCOMPARE(TavFileListItem::currentIndex, 0);
     }
 
+    // Other cameras' recordings, by their name schemes: a copied card's type folders are
+    // listed (another folder is not), dated, typed and counted as the camera's own.
+    void otherCamerasFolders() {
+        const QString cameras = QStringLiteral(FOREIGN_MEDIA) + "/cameras/";
+        TavFileListItem list;
+        connect(&list, &TavFileListItem::onSendFinishReadFileTime, &list,
+                &TavFileListItem::onFinishReadFileTime);
+        QSignalSpy lengths(&list, &TavFileListItem::onSendFinishReadFileTime);
+        const QStringList names{"20240612_081502_INF", "20240612_081514_INF", "20240612_081526_INF",
+                                "20240612_081538_INF", "20240612_081550_INF", "20240612_081602_INF",
+                                "20240612_081614_EVT", "20240612_081626_USR", "20240612_081638_USR",
+                                "20240612_123000_PRK"};
+        list.loadPaths({cameras});
+        QCOMPARE(shownNames(list), names.mid(0, 7) + names.mid(9));
+        QVERIFY(lengths.wait(30000));
+        list.loadPaths(
+            {cameras + "Normal", cameras + "Event", cameras + "Parking", cameras + "Action"});
+        QVERIFY2(m_messages.isEmpty(), qPrintable(m_messages.join('|')));
+        QVERIFY(lengths.wait(30000));
+        QCOMPARE(shownNames(list), names);
+        QCOMPARE(shownCameras(list), QList<int>({2, 2, 3, 2, 1, 1, 2, 1, 1, 1}));
+        QStringList types, durations;
+        for (int row = 0; row < list.rowCount(); ++row) {
+            types << list.item(row, TavFileListItem::TypeColumn)->text();
+            durations << list.item(row, TavFileListItem::LengthColumn)->text();
+        }
+        QCOMPARE(types, QStringList({"I", "I", "I", "I", "I", "I", "E", "U", "U", "P"}));
+        QCOMPARE(durations.count("00:12"), 9);
+        QCOMPARE(durations.last(), QString("00:08"));
+        list.onSortFile(2); // Event only
+        QCOMPARE(TavFileListItem::visibleRows, QVector<int>({6}));
+    }
+
     void modifierKeysChooseTheSelectionMode() {
         TavFileListItem list;
         list.show();

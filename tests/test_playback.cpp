@@ -1,5 +1,6 @@
 // The video engine and the channel coordinator on real libvlc and real windows: states,
-// cameras checked on their pictures, moves, steps, speed, end of file, a vanished file.
+// cameras checked on their pictures, moves, steps, speed, end of file, a vanished file, and
+// other cameras' recordings with their telemetry.
 #include "AppGlobals.h"
 #include "PlayerInterface.h"
 #include "VLCComponent.h"
@@ -19,6 +20,7 @@ const QString kSplit = kMedia + "/20240301_090000_INF_1.mp4"; // red, green, blu
 const QString kGap = kMedia + "/20240301_091000_EVT_1.mp4";   // _1 red and _3 blue; 4 s
 // Three channels whose frame numbers are bar codes across their top rows; 10 s.
 const QString kBars = kMedia + "/steps/20240701_090000_INF_1.mp4";
+const QString kCameras = QStringLiteral(FOREIGN_MEDIA) + "/cameras/";
 
 enum class Colour { Red, Green, Blue, Other };
 
@@ -108,6 +110,14 @@ class TestPlayback : public QObject {
         }
         if (exact)
             QVERIFY2(same * 3 >= samples * 2, qPrintable(QString("%1:%2").arg(what, seen)));
+    }
+
+    // The frames with a position, and whether every frame has its G-sensor values.
+    static int positions() {
+        int count = 0;
+        for (const GpsPoint& point : PlayerInterface::gpsList)
+            count += point.latitude != 0 || point.longitude != 0;
+        return count;
     }
 
 private slots:
@@ -328,6 +338,37 @@ private slots:
         // The list then stops the engine for a removed file.
         engine()->Stop(VLCComponent::StopFileRemoved);
         QTRY_COMPARE_WITH_TIMEOUT(VLCComponent::playerState, int(VLCComponent::Stopped), 10000);
+    }
+
+    // Three lettered cameras play together, with NMEA sentences from freeGPS blocks.
+    void channelFilesPlayTogetherWithTelemetry() {
+        open(kCameras + "Normal/REC_2024_06_12_08_15_26_F.MP4");
+        QCOMPARE(m_player->engine()->GetChannelCount(), 3);
+        QCOMPARE(PlayerInterface::playChannelCount, 3);
+        QVERIFY(PlayerInterface::telemetryPresent);
+        QCOMPARE(PlayerInterface::gpsList.size(), 120); // 12 s, a frame each 100 ms
+        QCOMPARE(PlayerInterface::gSensorList.size(), 120);
+        QVERIFY2(positions() >= 110, qPrintable(QString::number(positions())));
+        stopAndWait();
+
+        // Digits for channels, an NMEA log in a top-level box.
+        open(kCameras + "Normal/20240612_081538_1.mp4");
+        QCOMPARE(m_player->engine()->GetChannelCount(), 2);
+        QVERIFY(positions() > 0);
+    }
+
+    // A numbered action-camera file: one camera, GPMF positions and accelerations.
+    void actionCameraPlaysWithItsTrace() {
+        open(kCameras + "Action/GH010123.MP4");
+        QCOMPARE(m_player->engine()->GetChannelCount(), 1);
+        QCOMPARE(PlayerInterface::gpsList.size(), 120);
+        QVERIFY(positions() >= 110);
+        bool moving = false;
+        for (const GSensorPoint& point : PlayerInterface::gSensorList)
+            moving = moving || std::fabs(point.z - 1.0f) > 0.001f;
+        QVERIFY(moving);
+        for (const GpsPoint& point : PlayerInterface::gpsList)
+            QVERIFY(point.speed >= 0 && point.speed < 100);
     }
 };
 
