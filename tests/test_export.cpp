@@ -447,24 +447,13 @@ private slots:
     }
 
     // Snapshot names: the position with up to six digits, without its "0.".
-    void snapshotNames_data() {
-        QTest::addColumn<QString>("recording");
-        QTest::addColumn<int>("channel");
-        QTest::addColumn<double>("position");
-        QTest::addColumn<QString>("expected");
-        QTest::newRow("six digits") << "20240301_090000_INF_1.mp4" << 0 << 0.123456789
-                                    << "/p/20240301_090000_INF_1_1_123457.jpg";
-        QTest::newRow("short") << "20240301_092000_USR_4.mp4" << 2 << 0.5
-                               << "/p/20240301_092000_USR_4_3_5.jpg";
-        QTest::newRow("start, no point") << "a.avi" << 1 << 0.0 << "/p/a_2_0.jpg";
-        QTest::newRow("end, no point") << "a.avi" << 0 << 1.0 << "/p/a_1_0.jpg";
-    }
     void snapshotNames() {
-        QFETCH(QString, recording);
-        QFETCH(int, channel);
-        QFETCH(double, position);
-        QFETCH(QString, expected);
-        QCOMPARE(SnapshotWriter::fileName("/p", recording, channel, position), expected);
+        QCOMPARE(SnapshotWriter::fileName("/p", "20240301_090000_INF_1.mp4", 0, 0.123456789),
+                 QString("/p/20240301_090000_INF_1_1_123457.jpg"));
+        QCOMPARE(SnapshotWriter::fileName("/p", "20240301_092000_USR_4.mp4", 2, 0.5),
+                 QString("/p/20240301_092000_USR_4_3_5.jpg"));
+        QCOMPARE(SnapshotWriter::fileName("/p", "a.avi", 1, 0.0), QString("/p/a_2_0.jpg"));
+        QCOMPARE(SnapshotWriter::fileName("/p", "a.avi", 0, 1.0), QString("/p/a_1_0.jpg"));
     }
 
     // A snapshot that cannot be saved leaves the file that was there.

@@ -20,7 +20,6 @@
 #include <QProcess>
 #include <QPushButton>
 #include <QTemporaryDir>
-#include <QTranslator>
 #include <QUrl>
 #include <QtTest>
 
@@ -823,25 +822,6 @@ private slots:
         QTest::mouseClick(files.viewport(), Qt::LeftButton, {}, QPoint(5, 5));
         QVERIFY(!popUp.isListShown());
         QVERIFY(!combo.findChild<QPushButton*>("bOpenList")->isChecked());
-    }
-
-    void typeTextsFollowTheLanguage() {
-        TavFileComboBox combo;
-        TavTypeList popUp;
-        QTranslator korean;
-        QVERIFY(korean.load(QCoreApplication::applicationDirPath() +
-                            "/Resources/translation/trans_ko.qm"));
-        QCoreApplication::installTranslator(&korean);
-        combo.onChangeLanguage();
-        popUp.onChangeLanguage();
-        const QString all = comboText(combo);
-        QVERIFY(!all.isEmpty() && all != QString("  All Type"));
-        QVERIFY(popUp.findChild<TavTypeButton*>("user")->text() != QString("User"));
-        combo.onUpdateSetData(1);
-        QVERIFY(comboText(combo) != all && comboText(combo) != QString("  Filter"));
-        QCoreApplication::removeTranslator(&korean);
-        combo.onChangeLanguage();
-        QCOMPARE(comboText(combo), QString("  Filter"));
     }
 };
 

