@@ -119,16 +119,14 @@ private slots:
     }
 
     void typesLabelsAndIcons() {
-        QCOMPARE(RecordingName::typeFromName("20230415_083012_INF_1.avi"), 1);
-        QCOMPARE(RecordingName::typeFromName("20230415_083012_EVT_1.mp4"), 2);
-        QCOMPARE(RecordingName::typeFromName("20230415_083012_PRK_2.mp4"), 3);
-        QCOMPARE(RecordingName::typeFromName("20230415_083012_USR_1.mp4"), 4);
-        QCOMPARE(RecordingName::typeFromName("20230415_083012_ENF_1.avi"), 0);
-        QCOMPARE(RecordingName::typeFromName("20230415_083012_evt_1.mp4"), 0);
-        // The third field counts even when a prefix shifts the date.
-        QCOMPARE(RecordingName::typeFromName("rec_20230415_083012_INF_1.avi"), 0);
-        QCOMPARE(RecordingName::typeFromName("nothing"), 0);
-
+        // The third field names the type, in capitals; a prefix shifts it away.
+        const QList<QPair<const char*, int>> types{
+            {"20230415_083012_INF_1.avi", 1},     {"20230415_083012_EVT_1.mp4", 2},
+            {"20230415_083012_PRK_2.mp4", 3},     {"20230415_083012_USR_1.mp4", 4},
+            {"20230415_083012_ENF_1.avi", 0},     {"20230415_083012_evt_1.mp4", 0},
+            {"rec_20230415_083012_INF_1.avi", 0}, {"nothing", 0}};
+        for (const auto& [name, type] : types)
+            QVERIFY2(RecordingName::typeFromName(name) == type, name);
         QCOMPARE(RecordingName::typeLabel(2), QString("E"));
         QVERIFY(RecordingName::typeLabel(0).isEmpty());
         // Each type's icon is a file the build installed; an unknown label has none.
