@@ -282,24 +282,6 @@ private slots:
         QVERIFY(!widget.isEnabled());
     }
 
-    void absentKeysKeepTheirDefaults() {
-        writeView(
-            R"({"bare": {}, "wrongTypes": {"position": {"x": "10"}, "show": 1, "size": [1]}})");
-        UiDescription ui;
-        QVERIFY(ui.open(m_view));
-        for (const char* name : {"bare", "wrongTypes"}) {
-            const UiItem item = ui.item(name);
-            QCOMPARE(item.status, 0);
-            QVERIFY(!item.show && !item.enable && item.x == 0);
-            QVERIFY(!item.size.isValid() && !item.maximum.isValid());
-            QCOMPARE(item.scaleHeight, 3);
-            QCOMPARE(item.textColor[UiItem::Hover], QString("#000000"));
-            QVERIFY(item.color[UiItem::Default].isEmpty());
-            QCOMPARE(item.image[UiItem::Disable], QString("none"));
-        }
-        QCOMPARE(ui.item("missing").status, -1);
-    }
-
     void everyKeyIsRead() {
         writeView(
             R"({"panel": {"position": {"x": 12, "y": 34}, "size": {"width": 200, "height": 100},
@@ -311,9 +293,22 @@ private slots:
             "image": {"Default": "panel.svg"}, "border": {"Disable": "black"},
             "show": true, "enable": true, "text": "Open folder"},
           "oddWeight": {"font": {"weight": "Heavy", "size": 0}},
-          "halfMaximum": {"maximum": {"width": -1}}})");
+          "halfMaximum": {"maximum": {"width": -1}}, "bare": {},
+          "wrongTypes": {"position": {"x": "10"}, "show": 1, "size": [1]}})");
         UiDescription ui;
         QVERIFY(ui.open(m_view));
+        // Keys left out, or of the wrong type, keep their defaults.
+        for (const char* name : {"bare", "wrongTypes"}) {
+            const UiItem item = ui.item(name);
+            QCOMPARE(item.status, 0);
+            QVERIFY(!item.show && !item.enable && item.x == 0);
+            QVERIFY(!item.size.isValid() && !item.maximum.isValid());
+            QCOMPARE(item.scaleHeight, 3);
+            QCOMPARE(item.textColor[UiItem::Hover], QString("#000000"));
+            QVERIFY(item.color[UiItem::Default].isEmpty());
+            QCOMPARE(item.image[UiItem::Disable], QString("none"));
+        }
+        QCOMPARE(ui.item("missing").status, -1);
         const UiItem item = ui.item("panel");
         QCOMPARE(QRect(item.x, item.y, item.size.width(), item.size.height()),
                  QRect(12, 34, 200, 100));

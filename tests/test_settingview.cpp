@@ -49,15 +49,15 @@ class TestSettingView : public QObject {
         return access.readConfig(QDir(m_card));
     }
 
+    static QJsonObject shipped(const QString& json) {
+        return QJsonDocument::fromJson(CardFixture::readFile(CardFixture::shippedJson(json)))
+            .object();
+    }
+
     // The card's value of a setting, read from the file's bytes.
     int cardByte(const QString& name) {
         const QByteArray file = CardFixture::readFile(configPath());
-        const QJsonObject model =
-            QJsonDocument::fromJson(
-                CardFixture::readFile(CardFixture::shippedJson("configStr.json")))
-                .object()
-                .value("RAVEN1_2CH")
-                .toObject();
+        const QJsonObject model = shipped("configStr.json").value("RAVEN1_2CH").toObject();
         const QStringList order = {"Camera", "Memory", "Sensitive", "System", "Battery Protection"};
         for (int g = 0; g < order.size(); ++g) {
             int position = 160 + 128 * g;
@@ -304,13 +304,8 @@ private slots:
 
     void shippedDescriptionsMatchTheConfigLayouts() {
         // Every setting is a config.bin item (or card text); its choices fit, with the factory one.
-        const QJsonObject layouts =
-            QJsonDocument::fromJson(
-                CardFixture::readFile(CardFixture::shippedJson("configStr.json")))
-                .object();
-        const QJsonObject settings =
-            QJsonDocument::fromJson(CardFixture::readFile(CardFixture::shippedJson("Setting.json")))
-                .object();
+        const QJsonObject layouts = shipped("configStr.json");
+        const QJsonObject settings = shipped("Setting.json");
         QCOMPARE(settings.keys(), layouts.keys());
         for (const QString& model : layouts.keys()) {
             QHash<QString, int> widths;
