@@ -553,8 +553,7 @@ private slots:
         QCOMPARE(TavFileListItem::currentIndex, 0);
     }
 
-    // Other cameras' recordings, by their name schemes: a copied card's type folders are
-    // listed (another folder is not), dated, typed and counted as the camera's own.
+    // Other cameras' recordings: a copied card's type folders listed and typed as the own.
     void otherCamerasFolders() {
         const QString cameras = QStringLiteral(FOREIGN_MEDIA) + "/cameras/";
         TavFileListItem list;

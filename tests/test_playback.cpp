@@ -86,10 +86,8 @@ class TestPlayback : public QObject {
         return frames;
     }
 
-    // Samples the scenes for a while: every rear camera shows the front camera's frame. A
-    // grab can fall between two scenes' repaints, so a frame apart is allowed now and then,
-    // never more. After frame steps libvlc's video outputs keep a timing of their own (it can
-    // leave one a frame apart for good), so there a frame apart is all that is asked.
+    // Every rear camera shows the front camera's frame; a grab between repaints may see one a
+    // frame apart now and then, and after frame steps libvlc may keep one so (not exact).
     void checkInStep(const char* what, bool exact = true) {
         int same = 0;
         int samples = 0;

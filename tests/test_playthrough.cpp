@@ -45,9 +45,8 @@ QRgb screenColour(QWidget* widget) {
     const QImage screen = QGuiApplication::primaryScreen()->grabWindow(0).toImage();
     return screen.pixel(centre);
 }
-// Which side of a scene the frame number is on: white pixels in the top third (the front
-// camera's picture) or the bottom third (a rear camera's), left half against right half
-// (+1 left, -1 right, 0 none).
+// The side of the frame number (white, top third in front, bottom third at the rear): +1 left,
+// -1 right, 0 none.
 int frameNumberSide(const QImage& screen, const QRect& area, bool front) {
     const int top = front ? area.top() : area.bottom() - area.height() / 3;
     int left = 0;

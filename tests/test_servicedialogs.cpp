@@ -31,10 +31,9 @@
 
 namespace {
 
-// The stand-in service (tools/service_standin) with the answers a test asks for, and what it
-// heard in its transcript ("< Version", "> 1.0.7", ...). It and the code under test meet in a
-// temporary folder of their own (TMPDIR, where a local socket's name lives on Linux), so tests
-// running side by side never meet each other's; made before any QLocalSocket is.
+// The stand-in service (tools/service_standin) with its answers and transcript ("< Version",
+// "> 1.0.7", ...), met in a TMPDIR of its own (where a local socket's name lives on Linux) so
+// that tests side by side never meet; made before any QLocalSocket is.
 class ServiceFixture {
 public:
     ServiceFixture() { qputenv("TMPDIR", m_temp.path().toLocal8Bit()); }
