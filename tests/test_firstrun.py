@@ -5,7 +5,8 @@
 
 From an empty home the privacy agreement comes first; it is accepted with Return. The bare
 command opens the demo recordings: moving pictures in every scene, the G-sensor chart, the
-map's route and moving car, and the report saved as PDF. Scenes are found from the views'
+map's route and moving car, video and snapshots of every camera saved through the capture
+dialog, the about view and the settings dialog, and the report saved as PDF. Scenes are found from the views'
 description files; the grabs are kept in BUILD/tests/. (Each camera's picture in its own
 scene is checked on the real main window by test_playthrough.)
 """
@@ -155,6 +156,78 @@ def click_entry(origin, view, name):
     click(origin[0] + x + w // 2, origin[1] + y + h // 2)
 
 
+def files_in(folder, pattern, count):
+    def found():
+        names = os.listdir(folder) if os.path.isdir(folder) else []
+        return sorted(f for f in names if re.match(pattern, f))
+    return wait_until(lambda: found() if len(found()) >= count else None, 20, 0.3) or found()
+
+
+def check_save(column, name, home):
+    """Capture: each camera's picture offered, then its video saved under the movies folder
+    and its snapshot under the pictures folder, one file per camera."""
+    stem = r"20240612_081502_INF"
+    for mode, folder, pattern in (
+            ("bSaveVideo", os.path.join(home, "Videos", "ZENTA"), stem + r"_[123]\.mp4$"),
+            ("bSaveSnapshot", os.path.join(home, "Pictures", "ZENTA"),
+             stem + r"_1_[123]_\d+\.jpg$")):
+        click_entry(column, "TavShortcutTable", "bCapture")
+        dialog = window_named("Choose Save Scene", "%s: capture opens the save dialog" % name)
+        if dialog is None:
+            return
+        time.sleep(0.5)
+        _, page_y, _, _ = entry("SaveAsView", "pageScene")
+        page = (dialog[0], dialog[1] + page_y)
+        grab = Screen()
+        pictures = [grab.share((page[0] + x + 2, page[1] + y + 2, w - 4, h - 4), not_black, 2)
+                    for x, y, w, h in (entry("SaveAsView", "thumb%d" % i) for i in (1, 2, 3))]
+        if mode == "bSaveVideo":
+            grab.save(os.path.join(BUILD, "tests", "firstrun-%s-save.png" % name))
+        check(all(share > 0.5 for share in pictures),
+              "%s: the save dialog shows each camera's picture (%s)" %
+              (name, ", ".join("%.0f %%" % (100 * s) for s in pictures)))
+        click_entry(page, "SaveAsView", mode)
+        time.sleep(0.5)
+        click_entry(page, "SaveAsView", "bSave")
+        files = files_in(folder, pattern, 3)
+        check(len(files) == 3, "%s: %s writes one file per camera (%s)" % (name, mode, files))
+        time.sleep(0.5)
+        xdotool("key", "--clearmodifiers", "Return")  # the completion message
+        time.sleep(0.5)
+
+
+def check_service_views(column, name):
+    """The about view and the settings dialog open from the shortcut column without a
+    companion service; their grabs are kept."""
+    click_entry(column, "TavShortcutTable", "bAbout")
+    about = window_named("About", "%s: the about view opens" % name)
+    if about:
+        time.sleep(0.5)
+        grab = Screen()
+        grab.save(os.path.join(BUILD, "tests", "firstrun-%s-about.png" % name))
+        x, y, w, h = entry("AboutView", "logo")
+        check(grab.share((about[0] + x, about[1] + y, w, h), CAR, 1) > 0.05,
+              "%s: the about view shows the program's mark" % name)
+        click_entry(about, "AboutView", "bOk")
+        check(wait_until(lambda: not xdotool("search", "--onlyvisible", "--name", "^About$"),
+                         10), "%s: Close closes the about view" % name)
+    click_entry(column, "TavShortcutTable", "bSetting")
+    settings = window_named("Settings", "%s: the settings dialog opens" % name)
+    if settings:
+        nx, ny, _, _ = entry("SettingView", "navWidget")  # the page buttons sit on it
+        nav = (settings[0] + nx, settings[1] + ny)
+        click_entry(nav, "SettingView", "bCrashReport")
+        time.sleep(0.5)
+        grab = Screen()
+        grab.save(os.path.join(BUILD, "tests", "firstrun-%s-settings.png" % name))
+        x, y, w, h = entry("SettingView", "bCrashReport")
+        check(grab.share((nav[0] + x, nav[1] + y, w, h), CAR, 1) > 0.5,
+              "%s: the crash-report page is the chosen one" % name)
+        click_entry(settings, "SettingView", "bCancel")
+        check(wait_until(lambda: not xdotool("search", "--onlyvisible", "--name", "^Settings$"),
+                         10), "%s: Cancel closes the settings dialog" % name)
+
+
 def check_report(window, name, home):
     """Print: the camera asked for, the report saved as PDF where the user typed, with the
     recording's values, its picture and the map on the page."""
@@ -179,12 +252,17 @@ def check_report(window, name, home):
     xdotool("key", "--clearmodifiers", "ctrl+a")
     xdotool("type", "--delay", "20", pdf)
     xdotool("key", "--clearmodifiers", "Return")
-    written = wait_until(lambda: os.path.exists(pdf), 20, 0.3)
-    check(written, "%s: the report is saved where the user typed" % name)
+    def text():  # the file shows up before the page is all written
+        if not os.path.exists(pdf):
+            return None
+        out = subprocess.run(["pdftotext", pdf, "-"], capture_output=True, text=True).stdout
+        return out if "Km/h" in out else None
+    text = wait_until(text, 20, 0.3)
+    check(os.path.exists(pdf), "%s: the report is saved where the user typed" % name)
     time.sleep(0.5)
     xdotool("key", "--clearmodifiers", "Return")  # the message that says where
-    if written:
-        text = subprocess.run(["pdftotext", pdf, "-"], capture_output=True, text=True).stdout
+    if os.path.exists(pdf):
+        text = text or ""
         for label in ("FileName: 20240612_081502_INF_1.mp4", "G-Senor: X:", "GPS:3", "Km/h"):
             check(label in text, "%s: the report's text has %r" % (name, label))
         page_png = os.path.join(BUILD, "tests", "firstrun-%s-report-page.png" % name)
@@ -267,6 +345,10 @@ def run_case(name, arguments):
             check(second.differs(first, rect) > 0.002, "%s: the %s moves (%.2f %% in 1.2 s)" %
                   (name, scene, 100 * second.differs(first, rect)))
         check_chart_and_map(window, name)
+        sx, sy, _, _ = entry("MainWindow", "shortcutTable")
+        column = (window[0] + sx, window[1] + sy)
+        check_save(column, name, home)
+        check_service_views(column, name)
         check_report(window, name, home)
     finally:
         if program.poll() is None:
