@@ -197,35 +197,29 @@ def check_save(column, name, home):
 
 
 def check_service_views(column, name):
-    """The about view and the settings dialog open from the shortcut column without a
-    companion service; their grabs are kept."""
-    click_entry(column, "TavShortcutTable", "bAbout")
-    about = window_named("About", "%s: the about view opens" % name)
-    if about:
+    """The about view and the settings dialog (on its crash-report page) open from the
+    shortcut column without a companion service, show what they should where their
+    descriptions put it, and close; their grabs are kept."""
+    for button, title, view, chosen, parent, close, share in (
+            ("bAbout", "About", "AboutView", "logo", None, "bOk", 0.05),
+            ("bSetting", "Settings", "SettingView", "bCrashReport", "navWidget", "bCancel", 0.5)):
+        click_entry(column, "TavShortcutTable", button)
+        dialog = window_named(title, "%s: %s opens" % (name, title))
+        if not dialog:
+            continue
+        px, py = entry(view, parent)[:2] if parent else (0, 0)
+        origin = (dialog[0] + px, dialog[1] + py)
+        if view == "SettingView":
+            click_entry(origin, view, chosen)
         time.sleep(0.5)
         grab = Screen()
-        grab.save(os.path.join(BUILD, "tests", "firstrun-%s-about.png" % name))
-        x, y, w, h = entry("AboutView", "logo")
-        check(grab.share((about[0] + x, about[1] + y, w, h), CAR, 1) > 0.05,
-              "%s: the about view shows the program's mark" % name)
-        click_entry(about, "AboutView", "bOk")
-        check(wait_until(lambda: not xdotool("search", "--onlyvisible", "--name", "^About$"),
-                         10), "%s: Close closes the about view" % name)
-    click_entry(column, "TavShortcutTable", "bSetting")
-    settings = window_named("Settings", "%s: the settings dialog opens" % name)
-    if settings:
-        nx, ny, _, _ = entry("SettingView", "navWidget")  # the page buttons sit on it
-        nav = (settings[0] + nx, settings[1] + ny)
-        click_entry(nav, "SettingView", "bCrashReport")
-        time.sleep(0.5)
-        grab = Screen()
-        grab.save(os.path.join(BUILD, "tests", "firstrun-%s-settings.png" % name))
-        x, y, w, h = entry("SettingView", "bCrashReport")
-        check(grab.share((nav[0] + x, nav[1] + y, w, h), CAR, 1) > 0.5,
-              "%s: the crash-report page is the chosen one" % name)
-        click_entry(settings, "SettingView", "bCancel")
-        check(wait_until(lambda: not xdotool("search", "--onlyvisible", "--name", "^Settings$"),
-                         10), "%s: Cancel closes the settings dialog" % name)
+        grab.save(os.path.join(BUILD, "tests", "firstrun-%s-%s.png" % (name, title.lower())))
+        x, y, w, h = entry(view, chosen)
+        check(grab.share((origin[0] + x, origin[1] + y, w, h), CAR, 1) > share,
+              "%s: %s shows %s in the program's blue" % (name, title, chosen))
+        click_entry(dialog, view, close)
+        check(wait_until(lambda: not xdotool("search", "--onlyvisible", "--name", "^%s$" % title),
+                         10), "%s: %s closes" % (name, title))
 
 
 def check_report(window, name, home):
