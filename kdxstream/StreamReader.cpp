@@ -1,5 +1,6 @@
 #include "StreamReader.h"
 
+#include "Milliseconds.h"
 #include "TelemetrySourceFinder.h"
 
 extern "C" {
@@ -97,8 +98,7 @@ std::int32_t StreamReader::totalRangeMs() const {
         const AVStream* stream = m_format->streams[i];
         if (stream->duration == AV_NOPTS_VALUE || stream->duration <= 0)
             continue;
-        longest = std::max(longest,
-                           av_rescale_q(stream->duration, stream->time_base, AVRational{1, 1000}));
+        longest = std::max(longest, toMilliseconds(stream->duration, stream->time_base));
     }
     return clampToInt32(longest);
 }
@@ -108,8 +108,7 @@ std::int32_t StreamReader::startTimeMs() const {
     for (unsigned i = 0; i < m_format->nb_streams; ++i) {
         const AVStream* stream = m_format->streams[i];
         if (stream->start_time != AV_NOPTS_VALUE)
-            earliest = std::min(
-                earliest, av_rescale_q(stream->start_time, stream->time_base, AVRational{1, 1000}));
+            earliest = std::min(earliest, toMilliseconds(stream->start_time, stream->time_base));
     }
     return earliest == INT64_MAX ? 0 : clampToInt32(earliest);
 }

@@ -1,5 +1,6 @@
 #include "TimedTextTelemetrySource.h"
 
+#include "Milliseconds.h"
 #include "TelemetrySampleParser.h"
 
 extern "C" {
@@ -10,13 +11,6 @@ extern "C" {
 #include <cstring>
 
 namespace kdx {
-namespace {
-
-std::int64_t toMilliseconds(std::int64_t value, AVRational timeBase) {
-    return av_rescale_q(value, timeBase, AVRational{1, 1000});
-}
-
-} // namespace
 
 std::unique_ptr<TimedTextTelemetrySource>
 TimedTextTelemetrySource::create(AVFormatContext* format) {

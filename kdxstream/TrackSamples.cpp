@@ -1,5 +1,7 @@
 #include "TrackSamples.h"
 
+#include "Milliseconds.h"
+
 extern "C" {
 #include <libavformat/avformat.h>
 }
@@ -8,13 +10,6 @@ extern "C" {
 #include <climits>
 
 namespace kdx {
-namespace {
-
-std::int64_t toMs(std::int64_t value, AVRational timeBase) {
-    return av_rescale_q(value, timeBase, AVRational{1, 1000});
-}
-
-} // namespace
 
 std::vector<TrackSample> TrackSamples::of(const AVStream* stream) {
     std::vector<TrackSample> samples;
@@ -28,15 +23,16 @@ std::vector<TrackSample> TrackSamples::of(const AVStream* stream) {
         TrackSample sample;
         sample.offset = entry->pos;
         sample.size = static_cast<std::uint32_t>(entry->size);
-        sample.timeMs =
-            entry->timestamp != AV_NOPTS_VALUE ? toMs(entry->timestamp, stream->time_base) : 0;
+        sample.timeMs = entry->timestamp != AV_NOPTS_VALUE
+                            ? toMilliseconds(entry->timestamp, stream->time_base)
+                            : 0;
         samples.push_back(sample);
     }
     std::stable_sort(
         samples.begin(), samples.end(),
         [](const TrackSample& a, const TrackSample& b) { return a.timeMs < b.timeMs; });
     const std::int64_t end = stream->duration != AV_NOPTS_VALUE && stream->duration > 0
-                                 ? toMs(stream->duration, stream->time_base)
+                                 ? toMilliseconds(stream->duration, stream->time_base)
                                  : 0;
     for (std::size_t i = 0; i < samples.size(); ++i) {
         std::int64_t gap = 0;
