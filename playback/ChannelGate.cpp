@@ -93,6 +93,8 @@ void ChannelGate::release(int count) {
 
 void ChannelGate::hold() {
     m_pendingCount = 0;
+    m_window = false;
+    m_regathering = false;
     m_limit->stop();
     m_quiet->stop();
 }
@@ -104,9 +106,14 @@ void ChannelGate::letGoWhenReady() {
 
 void ChannelGate::letGo() {
     const int count = m_pendingCount;
+    const bool regathering = m_regathering;
     hold();
     for (Channel& channel : m_channels)
         channel.phase = Idle;
+    m_letGoCount = count;
+    m_letGoAt = nowMs();
+    m_regatherAsked = false;
+    m_window = !regathering;
     // One tight loop: each player's clock starts when it takes its own un-pause, so the
     // less time between them the closer the channels run.
     for (int i = 0; i < count; ++i) {
@@ -114,6 +121,20 @@ void ChannelGate::letGo() {
             libvlc_media_player_set_pause(m_players[i], 0);
     }
     emit released();
+}
+
+void ChannelGate::regather() {
+    if (m_pendingCount > 0 || m_letGoCount == 0)
+        return; // held, or released anew, since
+    for (int i = 0; i < m_letGoCount; ++i) {
+        if (m_players[i] != nullptr)
+            libvlc_media_player_set_pause(m_players[i], 1);
+    }
+    m_pendingCount = m_letGoCount;
+    m_regathering = true;
+    m_limit->start();
+    m_quiet->start();
+    logInfo("[ChannelGate]: the channels buffer again after their release; gathered again");
 }
 
 void ChannelGate::onBuffering(const libvlc_event_t* event, void* data) {
@@ -126,8 +147,14 @@ void ChannelGate::onBuffering(const libvlc_event_t* event, void* data) {
     if (level < 100.0f) {
         for (int from : {int(Armed), int(Full), int(Ready)}) {
             if (channel->phase.compare_exchange_strong(from, Filling))
-                break;
+                return;
         }
+        ChannelGate* gate = channel->gate;
+        int idle = Idle;
+        if (gate->m_window && nowMs() - gate->m_letGoAt <= kRegatherMs &&
+            channel->phase.compare_exchange_strong(idle, Filling) &&
+            !gate->m_regatherAsked.exchange(true))
+            QMetaObject::invokeMethod(gate, "regather", Qt::QueuedConnection);
         return;
     }
     if (channel->phase == Filling) {

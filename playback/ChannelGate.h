@@ -26,6 +26,12 @@ class QTimer;
 // its first picture is decoded, a few frames late. A channel therefore counts as ready after
 // a second 100 %, or after a short quiet spell after the first. Events run on libvlc's threads
 // and only record the level; the release itself happens on the gate's thread.
+//
+// Players that were stepped frame by frame buffer once more when they are let go (libvlc
+// 3.0 leaves them in its frame-step buffering until they run), and each anchors its clock
+// when that ends: a frame or two apart (measured). A fresh buffering just after a release is
+// therefore gathered once more: the players are held again and let go together when every
+// one that buffers has its buffer.
 class ChannelGate : public QObject {
     Q_OBJECT
 public:
@@ -35,6 +41,8 @@ public:
     static constexpr int kHoldLimitMs = 2000;
     // No further buffering report this long after a full buffer: the buffering is over.
     static constexpr int kQuietMs = 50;
+    // A buffering that starts this soon after a release is the players' own, gathered again.
+    static constexpr int kRegatherMs = 100;
 
     // players: the engine's player array, read whenever the gate looks at or lets go the
     // players.
@@ -65,6 +73,8 @@ signals:
 
 private slots:
     void letGoWhenReady();
+    // Holds the players just let go again, until those that buffer anew have buffered.
+    void regather();
 
 private:
     enum Phase { Idle = 0, Armed, Filling, Full, Ready };
@@ -84,4 +94,12 @@ private:
     // and at players that failed or ended (they report nothing more).
     QTimer* m_quiet;
     int m_pendingCount = 0;
+    // The last release (its time and player count); whether a buffering that starts now is
+    // gathered (until kRegatherMs after a release that was not itself a gathering), and
+    // whether the gathering was asked for; whether the waiting release is a gathering.
+    std::atomic<qint64> m_letGoAt{0};
+    int m_letGoCount = 0;
+    std::atomic<bool> m_window{false};
+    std::atomic<bool> m_regatherAsked{false};
+    bool m_regathering = false;
 };

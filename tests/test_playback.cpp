@@ -18,7 +18,7 @@ namespace {
 const QString kMedia = QStringLiteral(PLAYBACK_MEDIA);
 const QString kSplit = kMedia + "/20240301_090000_INF_1.mp4"; // red, green, blue; 5 s
 const QString kGap = kMedia + "/20240301_091000_EVT_1.mp4";   // _1 red and _3 blue; 4 s
-// Three channels whose frame numbers are bar codes across their top rows; 10 s.
+// Three channels whose frame numbers are bar codes across their top rows; 20 s at 30 fps.
 const QString kBars = kMedia + "/steps/20240701_090000_INF_1.mp4";
 const QString kCameras = QStringLiteral(FOREIGN_MEDIA) + "/cameras/";
 
@@ -86,25 +86,37 @@ class TestPlayback : public QObject {
         return frames;
     }
 
-    // Every rear camera shows the front camera's frame; a grab between repaints may see one a
-    // frame apart now and then, and after frame steps libvlc may keep one so (not exact).
+    // Every rear camera shows the front camera's frame in two of three samples and is at
+    // most one frame off in the others (a grab between repaints). One grab of twelve may
+    // catch a scene late in redrawing on a busy machine; a channel out of step is off in
+    // all of them. Faster than normal, frames follow each other closer than the grabs can
+    // tell apart, and the sound's own delay at that speed puts the front a few ms off:
+    // there only the distance counts (not exact). Samples are taken while the recording
+    // plays on, well before its end.
     void checkInStep(const char* what, bool exact = true) {
         int same = 0;
         int samples = 0;
+        int farOff = 0;
         QString seen;
         for (int k = 0; k < 12; ++k) {
             QTest::qWait(170);
             const QVector<int> frames = framesOnScreen();
             seen += QString(" %1/%2/%3").arg(frames[0]).arg(frames[1]).arg(frames[2]);
+            QVERIFY2(VLCComponent::playerState == VLCComponent::Playing &&
+                         engine()->GetCurrentPos() < PlayerInterface::totalTime - 1000 &&
+                         frames[0] < 30 * 20,
+                     qPrintable(QString("%1: the recording ran out:%2").arg(what, seen)));
+            int farthest = 0;
             for (int i = 1; i < 3; ++i) {
                 const int apart = std::abs(frames[i] - frames[0]);
-                QVERIFY2(apart <= 1, qPrintable(QString("%1:%2").arg(what, seen)));
+                farthest = std::max(farthest, apart);
                 same += apart == 0;
                 ++samples;
             }
+            farOff += farthest > 1;
         }
-        if (exact)
-            QVERIFY2(same * 3 >= samples * 2, qPrintable(QString("%1:%2").arg(what, seen)));
+        QVERIFY2(farOff <= 1 && (!exact || same * 3 >= samples * 2),
+                 qPrintable(QString("%1:%2").arg(what, seen)));
     }
 
     // The frames with a position, and whether every frame has its G-sensor values.
@@ -282,11 +294,11 @@ private slots:
         }
         m_player->onPlay();
         QTest::qWait(500);
-        checkInStep("after frame steps", false);
+        checkInStep("after frame steps");
 
         m_player->onControlSpeed(3); // one and a half
         QTest::qWait(500);
-        checkInStep("at another speed");
+        checkInStep("at another speed", false);
         m_player->onControlSpeed(2);
     }
 
