@@ -206,6 +206,8 @@ void PlayerInterface::onPlay() {
         return;
     }
 
+    // The recording that plays, for whoever reads the log after a crash.
+    logInfo("[PlayerInterface]: Open %s", currentFile.toLocal8Bit().constData());
     delete m_telemetry;
     gpsList.clear();
     gSensorList.clear();

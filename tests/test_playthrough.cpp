@@ -153,6 +153,10 @@ private slots:
 
         QTRY_VERIFY(m_rear2->isVisible());
         waitForEachCameraInItsScene();
+        // Held still from here on, so that the five-second recording is still the one on
+        // screen however long the checks take.
+        m_window->player()->onPause();
+        QCOMPARE(PlayerInterface::playStatus, int(PlayerInterface::PlayPaused));
     }
 
     void rearCameraSwapsIntoTheMainScene() {
@@ -172,7 +176,6 @@ private slots:
 
     void flipMirrorsOneScene() {
         // Paused, so every player has to come back to the paused picture after a flip.
-        m_window->player()->onPause();
         QCOMPARE(PlayerInterface::playStatus, int(PlayerInterface::PlayPaused));
         QTRY_COMPARE_WITH_TIMEOUT(frameNumberSide(m_rear1, false), 1, 3000);
         QCOMPARE(frameNumberSide(m_main, true), 1);
@@ -275,15 +278,17 @@ private slots:
         QCOMPARE(PlayerInterface::playStatus, int(PlayerInterface::PlayRunning));
         QTRY_VERIFY_WITH_TIMEOUT(
             std::abs(engine->GetChannelTime(2) - engine->GetCurrentPos()) < 400, 3000);
+        m_window->player()->onPause();
     }
 
     void keysControlPlayback() {
         m_window->activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(m_window));
-        QTest::keyClick(m_window, Qt::Key_Space);
         QCOMPARE(PlayerInterface::playStatus, int(PlayerInterface::PlayPaused));
         QTest::keyClick(m_window, Qt::Key_Space);
         QCOMPARE(PlayerInterface::playStatus, int(PlayerInterface::PlayRunning));
+        QTest::keyClick(m_window, Qt::Key_Space);
+        QCOMPARE(PlayerInterface::playStatus, int(PlayerInterface::PlayPaused));
         QTest::keyClick(m_window, Qt::Key_Home);
         QCOMPARE(PlayerInterface::currentTime, 0.0);
         QTest::keyClick(m_window, Qt::Key_Right); // five seconds on: the end, held there
@@ -294,7 +299,8 @@ private slots:
         QCOMPARE(PlayerInterface::currentTime, 0.0);
         QTest::keyClick(m_window, Qt::Key_Space);
         QCOMPARE(PlayerInterface::playStatus, int(PlayerInterface::PlayRunning));
-        // Keys wait while input is blocked.
+        // Keys wait while input is blocked (played from the start, so it is the same
+        // recording when the panel's test below pauses it).
         m_window->onBlockEvent(true);
         QTest::keyClick(m_window, Qt::Key_Space);
         QCOMPARE(PlayerInterface::playStatus, int(PlayerInterface::PlayRunning));
@@ -354,6 +360,7 @@ private slots:
         QTRY_COMPARE_WITH_TIMEOUT(frameNumberSide(m_main, true), 1, 3000);
         QTRY_COMPARE_WITH_TIMEOUT(frameNumberSide(m_rear1, false), 1, 3000);
         QVERIFY(!m_rear1->findChild<QPushButton*>("bFlip")->isChecked());
+        m_window->player()->onPause(); // the four-second recording stays the playing row
     }
 
     void deletingThePlayingRowStopsIt() {
@@ -386,8 +393,11 @@ private slots:
                                      VLCComponent::playerState == VLCComponent::Playing,
                                  15000);
         waitForEachCameraInItsScene();
-        // The picture stays in the scenes while it plays on.
-        QTest::qWait(1000);
+        // The picture stays in the scenes while it plays on: a second from the start.
+        VLCComponent* engine = m_window->player()->engine();
+        m_window->player()->onPlayPosMove(0);
+        QTRY_VERIFY_WITH_TIMEOUT(engine->GetCurrentPos() < 500, 3000);
+        QTRY_VERIFY_WITH_TIMEOUT(engine->GetCurrentPos() >= 1000, 5000);
         QVERIFY(isGreen(screenColour(m_rear1)));
         QVERIFY(isRed(screenColour(m_main)));
 
