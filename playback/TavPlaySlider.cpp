@@ -7,15 +7,6 @@
 #include <QStyle>
 #include <QStyleOptionSlider>
 
-namespace {
-
-QString stateColour(const UiItem& item, UiItem::State state, const char* fallback) {
-    const QString& colour = item.color[state];
-    return colour.isEmpty() || colour == QLatin1String("none") ? QLatin1String(fallback) : colour;
-}
-
-} // namespace
-
 TavPlaySlider::TavPlaySlider(QWidget* parent) : QSlider(Qt::Horizontal, parent) {
     setFocusPolicy(Qt::NoFocus);
     setRange(0, 0);
@@ -87,11 +78,11 @@ void TavPlaySlider::keyPressEvent(QKeyEvent* event) {
 }
 
 QString TavPlaySlider::styleSheet(const UiItem& item) {
-    const QString groove = stateColour(item, UiItem::Default, "#3a4150");
-    const QString played = stateColour(item, UiItem::Select, "#2f7cf6");
-    const QString handle = stateColour(item, UiItem::Normal, "#ffffff");
-    const QString handleHover = stateColour(item, UiItem::Hover, "#ffffff");
-    const QString disabled = stateColour(item, UiItem::Disable, "#4a5263");
+    const QString groove = item.colourOr(UiItem::Default, "#3a4150");
+    const QString played = item.colourOr(UiItem::Select, "#2f7cf6");
+    const QString handle = item.colourOr(UiItem::Normal, "#ffffff");
+    const QString handleHover = item.colourOr(UiItem::Hover, "#ffffff");
+    const QString disabled = item.colourOr(UiItem::Disable, "#4a5263");
     return QStringLiteral(
                "TavPlaySlider{background: transparent; border: none;} "
                "TavPlaySlider::groove:horizontal{height: 4px; border-radius: 2px; background: %1;} "

@@ -5,15 +5,6 @@
 #include <QMouseEvent>
 #include <QWheelEvent>
 
-namespace {
-
-QString stateColour(const UiItem& item, UiItem::State state, const char* fallback) {
-    const QString& colour = item.color[state];
-    return colour.isEmpty() || colour == QLatin1String("none") ? QLatin1String(fallback) : colour;
-}
-
-} // namespace
-
 TavVolumeProgressBar::TavVolumeProgressBar(QWidget* parent) : QProgressBar(parent) {
     setRange(0, 100);
     setTextVisible(false);
@@ -81,9 +72,9 @@ QString TavVolumeProgressBar::styleSheet(const UiItem& item) {
                           "margin: %4px %5px %6px %7px;} "
                           "TavVolumeProgressBar::chunk{border-radius: 2px; background: %2;} "
                           "TavVolumeProgressBar::chunk:disabled{background: %3;}")
-        .arg(stateColour(item, UiItem::Default, "#3a4150"),
-             stateColour(item, UiItem::Select, "#2f7cf6"),
-             stateColour(item, UiItem::Disable, "#4a5263"))
+        .arg(item.colourOr(UiItem::Default, "#3a4150"),
+             item.colourOr(UiItem::Select, "#2f7cf6"),
+             item.colourOr(UiItem::Disable, "#4a5263"))
         .arg(item.marginTop)
         .arg(item.marginRight)
         .arg(item.marginBottom)

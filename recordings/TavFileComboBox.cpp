@@ -11,7 +11,7 @@
 
 namespace {
 
-const char* const kViewName = "TavFileComboBox";
+const char* const kComboView = "TavFileComboBox";
 const char* const kLetters[] = {"I", "E", "P", "U"};
 
 } // namespace
@@ -21,7 +21,7 @@ TavFileComboBox::TavFileComboBox(QWidget* parent)
       m_open(new QPushButton(m_back)) {
     logInfo("[TavFileComboBox]: Enter TavFileComboBox class.");
     UiDescription ui;
-    ui.open(QString::fromLatin1(kViewName));
+    ui.open(QString::fromLatin1(kComboView));
     const QString images = ui.imageFolder();
     const UiItem back = ui.item(QStringLiteral("fileTypeBack"));
     if (UiApplier::apply(

@@ -38,7 +38,7 @@ constexpr int kProgressDelayMs = 300;
 // Scrolling asks for thumbnails once it settles, not on every pixel.
 constexpr int kThumbnailDelayMs = 150;
 
-const char* const kViewName = "TavFileListItem";
+const char* const kListView = "TavFileListItem";
 
 } // namespace
 
@@ -80,7 +80,7 @@ TavFileListItem::~TavFileListItem() {
 
 void TavFileListItem::setupUi() {
     UiDescription ui;
-    ui.open(QString::fromLatin1(kViewName));
+    ui.open(QString::fromLatin1(kListView));
     applyDescription(ui, QStringLiteral("fileList"));
     applyColumnWidth(ui, TypeColumn, QStringLiteral("columnType"));
     applyColumnWidth(ui, LengthColumn, QStringLiteral("columnLength"));

@@ -7,16 +7,12 @@
 
 namespace {
 
-bool isSet(const QString& value) {
-    return !value.isEmpty() && value != QLatin1String("none");
-}
-
 QString orDefault(const UiItem::StateStrings& strings, UiItem::State state) {
-    return isSet(strings[state]) ? strings[state] : strings[UiItem::Default];
+    return UiItem::isSet(strings[state]) ? strings[state] : strings[UiItem::Default];
 }
 
 QString borderRule(const UiItem& item) {
-    return isSet(item.border[UiItem::Default])
+    return UiItem::isSet(item.border[UiItem::Default])
                ? QStringLiteral("1px solid %1").arg(item.border[UiItem::Default])
                : QStringLiteral("none");
 }
@@ -63,7 +59,7 @@ void TavTableWidget::applyColumnWidth(const UiDescription& ui, int column, const
 QString TavTableWidget::tableStyleSheet(const UiItem& table, const UiItem& scrollBar,
                                         const UiItem& toolTip) {
     const QString background =
-        isSet(table.color[UiItem::Default]) ? table.color[UiItem::Default] : "transparent";
+        UiItem::isSet(table.color[UiItem::Default]) ? table.color[UiItem::Default] : "transparent";
     QString sheet =
         QStringLiteral("QTableWidget{background: %1; color: %2; border: %3; outline: 0;} "
                        "QTableWidget::item{border: none; padding: 0px 4px;} "

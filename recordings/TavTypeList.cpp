@@ -10,25 +10,21 @@
 
 namespace {
 
-const char* const kViewName = "TavTypeList";
+const char* const kTypeListView = "TavTypeList";
 // Description entries and type letters of the toggles, in mask bit order.
 const char* const kToggleNames[] = {"infinity", "event", "park", "user"};
 const char* const kToggleLetters[] = {"I", "E", "P", "U"};
-
-bool isSet(const QString& value) {
-    return !value.isEmpty() && value != QLatin1String("none");
-}
 
 // A row of the pop-up: the type's icon and name on the left, the switch picture (Normal
 // when off, Select when on) on the right.
 QString toggleStyleSheet(const UiItem& item, const QString& images) {
     const auto image = [&](UiItem::State state) {
-        return isSet(item.image[state])
+        return UiItem::isSet(item.image[state])
                    ? QStringLiteral("url(\"%1%2\")").arg(images, item.image[state])
                    : QStringLiteral("none");
     };
     const auto color = [&](UiItem::State state) {
-        return isSet(item.color[state]) ? item.color[state] : QStringLiteral("transparent");
+        return UiItem::isSet(item.color[state]) ? item.color[state] : QStringLiteral("transparent");
     };
     return QStringLiteral("TavTypeButton{border: none; border-radius: 4px; background: %1; "
                           "color: %2; text-align: left; padding-left: %3px; padding-right: %4px; "
@@ -48,7 +44,7 @@ QString toggleStyleSheet(const UiItem& item, const QString& images) {
 TavTypeList::TavTypeList(QWidget* parent) : QWidget(parent), m_back(new QWidget(this)) {
     logInfo("[TavTypeList]: Enter TavTypeList class.");
     UiDescription ui;
-    ui.open(QString::fromLatin1(kViewName));
+    ui.open(QString::fromLatin1(kTypeListView));
     const QString images = ui.imageFolder();
     const UiItem back = ui.item(QStringLiteral("typeListBack"));
     if (UiApplier::apply(
@@ -120,7 +116,7 @@ void TavTypeList::onHideTypeList() {
 
 void TavTypeList::onChangeLanguage() {
     UiDescription ui;
-    ui.open(QString::fromLatin1(kViewName));
+    ui.open(QString::fromLatin1(kTypeListView));
     for (int i = 0; i < 4; ++i)
         m_toggles[i]->setText(ui.translatedText(QString::fromLatin1(kToggleNames[i])));
 }

@@ -16,6 +16,9 @@ run() {
         xvfb-run -a -s "-screen 0 1600x900x24" "$@"
     fi
 }
+targets=()
+for name in "${names[@]}"; do targets+=("bench_$name"); done
+cmake --build "$TAVORIC_BUILD" -j "$(nproc)" --target "${targets[@]}"
 for name in "${names[@]}"; do
     echo "=== bench_$name"
     run "$TAVORIC_BUILD/bench_$name"

@@ -232,11 +232,10 @@ CAMERAS = [
 def camera_video(kit, pictures, target, channel, seconds, epoch, moving, creation=None):
     label, width, height, forward = kit.CHANNELS[channel]
     width, height = (320, 180) if channel == 0 else (224, 126)
-    args = ["-loop", "1", "-framerate", "30", "-t", str(seconds), "-i",
-            pictures.still(width, height)]
+    args = pictures.road(width, height, moving, forward)
     if channel == 0:
         args += kit.engine_noise(seconds)
-    args += ["-filter_complex", kit.scene_filter(width, height, label, epoch, moving, forward),
+    args += ["-filter_complex", kit.caption_filter("0:v", height, label, epoch, "v"),
              "-map", "[v]"]
     if channel == 0:
         args += ["-map", "1:a", "-c:a", "aac", "-b:a", "48k", "-ac", "1"]

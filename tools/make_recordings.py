@@ -18,6 +18,7 @@ folder that already holds the output of the same version of this script is left 
 """
 
 import argparse
+import concurrent.futures
 import hashlib
 import math
 import os
@@ -201,61 +202,83 @@ def road_picture(path, width, height):
          "-frames:v", "1", path])
 
 
-def scene_filter(width, height, label, epoch, moving, towards_camera=True):
-    """Filter graph from the road still [0:v] to [v]: lane marks and trees passing by, the
-    channel name and the recording clock."""
+# The passing lane marks repeat every 1/0.9 s and the trees every 1/0.45 s: 200 frames at
+# 30 fps (6 2/3 s) hold whole periods of both, so a clip of them loops without a seam.
+ROAD_LOOP_FRAMES = 200
+
+
+def road_filter(width, height, towards_camera=True):
+    """Filter graph from the road still [0:v] to [road]: lane marks and trees passing by."""
     horizon = int(height * 0.42)
     depth = height - horizon
+    marks, trees = 4, 3
     lines = ["color=c=white:s=%dx%d:r=30[mark]" % (max(2, width // 120), max(4, height // 18)),
-             "color=c=0x2f5a2a:s=%dx%d:r=30[tree]" % (max(3, width // 40), max(6, height // 7))]
-    chain = "[0:v]fps=30"
+             "color=c=0x2f5a2a:s=%dx%d:r=30[tree]" % (max(3, width // 40), max(6, height // 7)),
+             "[mark]split=%d%s" % (marks, "".join("[m%d]" % k for k in range(marks))),
+             "[tree]split=%d%s" % (2 * trees, "".join("[t%d]" % k for k in range(2 * trees))),
+             "[0:v]fps=30[base]"]
     overlays = []
-    if moving:
-        marks, trees = 4, 3
-        lines.append("[mark]split=%d%s" % (marks, "".join("[m%d]" % k for k in range(marks))))
-        lines.append("[tree]split=%d%s" % (2 * trees, "".join("[t%d]" % k for k in range(2 * trees))))
-        for k in range(marks):
-            f = "mod(t*0.9+%d/%d,1)" % (k, marks)
-            if not towards_camera:
-                f = "(1-%s)" % f
-            overlays.append(("[m%d]" % k, "(W-w)/2", "%d+%d*%s*%s-h/2" % (horizon, depth, f, f)))
-        for k in range(2 * trees):
-            f = "mod(t*0.45+%d/%d,1)" % (k // 2, trees)
-            if not towards_camera:
-                f = "(1-%s)" % f
-            side = "-" if k % 2 == 0 else "+"
-            overlays.append(("[t%d]" % k, "W/2%s(W*0.7*%s*%s)-w/2" % (side, f, f),
-                             "%d+%d*%s*%s-h" % (horizon, depth, f, f)))
-    else:
-        lines[:] = []
-    label_box = ("drawtext=font=%s:fontsize=%d:fontcolor=white:box=1:boxcolor=black@0.45:"
-                 "boxborderw=4:x=10:y=10:text='%s'" % (FONT, max(8, height // 22), label))
-    clock = ("drawtext=font=%s:fontsize=%d:fontcolor=white:box=1:boxcolor=black@0.45:"
-             "boxborderw=4:x=w-tw-10:y=h-th-10:text='%s'" % (FONT, max(8, height // 22),
-                                                               clock_text(epoch)))
+    for k in range(marks):
+        f = "mod(t*0.9+%d/%d,1)" % (k, marks)
+        if not towards_camera:
+            f = "(1-%s)" % f
+        overlays.append(("[m%d]" % k, "(W-w)/2", "%d+%d*%s*%s-h/2" % (horizon, depth, f, f)))
+    for k in range(2 * trees):
+        f = "mod(t*0.45+%d/%d,1)" % (k // 2, trees)
+        if not towards_camera:
+            f = "(1-%s)" % f
+        side = "-" if k % 2 == 0 else "+"
+        overlays.append(("[t%d]" % k, "W/2%s(W*0.7*%s*%s)-w/2" % (side, f, f),
+                         "%d+%d*%s*%s-h" % (horizon, depth, f, f)))
     current = "base"
-    lines.append(chain + "[base]")
     for k, (source, x, y) in enumerate(overlays):
         lines.append("[%s]%soverlay=x='%s':y='%s':shortest=1[o%d]" % (current, source, x, y, k))
         current = "o%d" % k
-    lines.append("[%s]%s,%s,format=yuv420p[v]" % (current, label_box, clock))
+    lines.append("[%s]null[road]" % current)
     return ";".join(lines)
 
 
+def caption_filter(source, height, label, epoch, output):
+    """From the road pictures [source] to [output]: the channel name and the recording clock,
+    the clock counting from the file's first frame."""
+    size = max(8, height // 22)
+    box = "fontcolor=white:box=1:boxcolor=black@0.45:boxborderw=4"
+    return ("[%s]setpts=N/30/TB,drawtext=font=%s:fontsize=%d:%s:x=10:y=10:text='%s',"
+            "drawtext=font=%s:fontsize=%d:%s:x=w-tw-10:y=h-th-10:text='%s',format=yuv420p[%s]"
+            % (source, FONT, size, box, label, FONT, size, box, clock_text(epoch), output))
+
+
 class Pictures:
-    """Caches the road stills by size in a scratch folder."""
+    """Caches the road stills and the looping road clips by size in a scratch folder."""
 
     def __init__(self, scratch):
         self.scratch = scratch
-        self.stills = {}
+        self.made = {}
 
     def still(self, width, height):
-        key = (width, height)
-        if key not in self.stills:
-            path = os.path.join(self.scratch, "road_%dx%d.png" % key)
+        key = ("still", width, height)
+        if key not in self.made:
+            path = os.path.join(self.scratch, "road_%dx%d.png" % (width, height))
             road_picture(path, width, height)
-            self.stills[key] = path
-        return self.stills[key]
+            self.made[key] = path
+        return self.made[key]
+
+    def road(self, width, height, moving=True, towards_camera=True):
+        """Input arguments of an endless road: the passing road as a clip played in a loop,
+        or the still road of a parked car."""
+        still = self.still(width, height)
+        if not moving:
+            return ["-loop", "1", "-framerate", "30", "-i", still]
+        key = ("loop", width, height, towards_camera)
+        if key not in self.made:
+            path = os.path.join(self.scratch, "road_%dx%d_%s.mkv" %
+                                (width, height, "on" if towards_camera else "off"))
+            run(["-loop", "1", "-framerate", "30", "-i", still, "-filter_complex",
+                 road_filter(width, height, towards_camera), "-map", "[road]",
+                 "-frames:v", str(ROAD_LOOP_FRAMES), "-c:v", "libx264", "-preset", "ultrafast",
+                 "-qp", "0", path])
+            self.made[key] = path
+        return ["-stream_loop", "-1", "-i", self.made[key]]
 
 
 CHANNELS = [("FRONT", 1280, 720, True), ("REAR 1", 640, 360, False), ("REAR 2", 640, 360, False)]
@@ -270,7 +293,7 @@ def make_channel_file(pictures, path, channel, seconds, telemetry, moving=True, 
                       quality=("-crf", "30")):
     label, width, height, forward = CHANNELS[channel]
     name = os.path.basename(path)
-    args = ["-loop", "1", "-framerate", "30", "-t", str(seconds), "-i", pictures.still(width, height)]
+    args = pictures.road(width, height, moving, forward)
     inputs = 1
     audio_input = srt_input = None
     if audio:
@@ -281,7 +304,7 @@ def make_channel_file(pictures, path, channel, seconds, telemetry, moving=True, 
         write_srt(srt, telemetry)
         args += ["-i", srt]
         srt_input, inputs = inputs, inputs + 1
-    args += ["-filter_complex", scene_filter(width, height, label, epoch_of(name), moving, forward),
+    args += ["-filter_complex", caption_filter("0:v", height, label, epoch_of(name), "v"),
              "-map", "[v]"]
     if audio_input is not None:
         args += ["-map", "%d:a" % audio_input, "-c:a", "aac", "-b:a", "64k", "-ac", "1"]
@@ -297,20 +320,15 @@ def make_single_file(pictures, path, seconds, telemetry):
     args = []
     graphs = []
     for channel, (label, width, height, forward) in enumerate(CHANNELS):
-        args += ["-loop", "1", "-framerate", "30", "-t", str(seconds), "-i", pictures.still(width, height)]
-        graph = scene_filter(width, height, label, epoch_of(name), True, forward)
-        # Each camera's graph is written for input 0 and output [v]; rename its labels.
-        graph = graph.replace("[0:v]", "[%d:v]" % channel)
-        for tag in ("mark", "tree", "base", "v") + tuple("m%d" % k for k in range(4)) + \
-                tuple("t%d" % k for k in range(6)) + tuple("o%d" % k for k in range(10)):
-            graph = graph.replace("[%s]" % tag, "[c%d%s]" % (channel, tag))
-        graphs.append(graph)
+        args += pictures.road(width, height, True, forward)
+        graphs.append(caption_filter("%d:v" % channel, height, label, epoch_of(name),
+                                     "c%d" % channel))
     args += engine_noise(seconds)
     srt = os.path.join(pictures.scratch, name + ".srt")
     write_srt(srt, telemetry)
     args += ["-i", srt, "-filter_complex", ";".join(graphs)]
     for channel in range(3):
-        args += ["-map", "[c%dv]" % channel]
+        args += ["-map", "[c%d]" % channel]
     args += ["-map", "3:a", "-map", "4:s", "-c:a", "aac", "-b:a", "64k", "-ac", "1"]
     args += TELEMETRY_TRACK + X264 + ["-crf", "30", "-g", "30", "-t", str(seconds), path]
     run(args)
@@ -319,10 +337,9 @@ def make_single_file(pictures, path, seconds, telemetry):
 def make_avi(pictures, path, seconds):
     """An AVI recording: MPEG-4 part 2 video and PCM sound, as older cameras write."""
     label, width, height, forward = CHANNELS[0]
-    args = ["-loop", "1", "-framerate", "30", "-t", str(seconds), "-i", pictures.still(width, height)]
-    args += engine_noise(seconds)
-    args += ["-filter_complex", scene_filter(width, height, label, epoch_of(os.path.basename(path)),
-                                             False, forward),
+    args = pictures.road(width, height, False) + engine_noise(seconds)
+    args += ["-filter_complex", caption_filter("0:v", height, label,
+                                               epoch_of(os.path.basename(path)), "v"),
              "-map", "[v]", "-map", "1:a", "-c:v", "mpeg4", "-q:v", "6", "-c:a", "pcm_s16le",
              "-ar", "22050", "-ac", "1", "-t", str(seconds), path]
     run(args)
@@ -343,24 +360,34 @@ def make_demo(folder, scratch):
         ("20240612_081712_USR", 1, 130, 20),    # front camera only
         ("20240612_081732_INF", "single", 150, 30),
     ]
+    # The road clips first (the files share them), then the files two or more at a time.
+    for _, width, height, forward in CHANNELS:
+        pictures.road(width, height, True, forward)
+    pictures.still(*CHANNELS[0][1:3])
+    jobs = []
     for stem, channels, start, seconds in drive_recordings:
         texts = drive.texts(start, seconds)
         if channels == "single":
             path = os.path.join(folder, stem + "_4.mp4")
-            print("  " + os.path.basename(path), flush=True)
-            make_single_file(pictures, path, seconds, texts)
+            jobs.append((path, make_single_file, (pictures, path, seconds, texts), {}))
             continue
         for channel in range(channels):
             path = os.path.join(folder, "%s_%d.mp4" % (stem, channel + 1))
-            print("  " + os.path.basename(path), flush=True)
-            make_channel_file(pictures, path, channel, seconds, texts, audio=channel == 0)
+            jobs.append((path, make_channel_file, (pictures, path, channel, seconds, texts),
+                         {"audio": channel == 0}))
     # Parked: no telemetry at all, then an AVI from the parking monitor.
     path = os.path.join(folder, "20240612_123000_PRK_1.mp4")
-    print("  " + os.path.basename(path), flush=True)
-    make_channel_file(pictures, path, 0, 20, None, moving=False)
+    jobs.append((path, make_channel_file, (pictures, path, 0, 20, None), {"moving": False}))
     path = os.path.join(folder, "20240612_123100_PRK_1.avi")
-    print("  " + os.path.basename(path), flush=True)
-    make_avi(pictures, path, 20)
+    jobs.append((path, make_avi, (pictures, path, 20), {}))
+
+    def make(job):
+        path, function, args, kwargs = job
+        function(*args, **kwargs)
+        print("  " + os.path.basename(path), flush=True)
+    with concurrent.futures.ThreadPoolExecutor(max(2, os.cpu_count() or 1)) as pool:
+        for _ in pool.map(make, jobs):  # raises the first failure
+            pass
 
 
 def test_reading(i):
@@ -543,7 +570,7 @@ def make_playback(folder, scratch):
     # Small bar-coded channels for checks of the channels' step, in a folder of their own so
     # that they are not among the recordings a test lists.
     os.makedirs(path("steps"))
-    bar_coded_channels(path("steps"), 320, 180, 10, audio=True)
+    bar_coded_channels(path("steps"), 320, 180, 20, audio=True)
 
 
 def bar_coded_channels(folder, width, height, seconds, audio=False):

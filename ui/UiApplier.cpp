@@ -4,10 +4,6 @@
 
 namespace {
 
-bool isSet(const QString& value) {
-    return !value.isEmpty() && value != QLatin1String("none");
-}
-
 QString imageUrl(const QString& imageFolder, const QString& image) {
     return QStringLiteral("url(\"%1%2\")").arg(imageFolder, image);
 }
@@ -20,18 +16,18 @@ QString stateRule(const QString& selector, const UiItem& item, UiItem::State sta
     QString body;
     if (base)
         body += QStringLiteral("border: none; ");
-    if (isSet(item.image[state]))
+    if (UiItem::isSet(item.image[state]))
         body += QStringLiteral("border-image: %1 0 0 0 0 stretch stretch; ")
                     .arg(imageUrl(imageFolder, item.image[state]));
     else if (base)
         body += QStringLiteral("border-image: none; ");
-    if (isSet(item.color[state]))
+    if (UiItem::isSet(item.color[state]))
         body += QStringLiteral("background: %1; ").arg(item.color[state]);
     else if (base)
         body += QStringLiteral("background: transparent; ");
-    if (isSet(item.textColor[state]) && (base || item.textColor[state] != item.textColor[0]))
+    if (UiItem::isSet(item.textColor[state]) && (base || item.textColor[state] != item.textColor[0]))
         body += QStringLiteral("color: %1; ").arg(item.textColor[state]);
-    if (isSet(item.border[state]))
+    if (UiItem::isSet(item.border[state]))
         body += QStringLiteral("border: 1px solid %1; ").arg(item.border[state]);
     if (body.isEmpty())
         return QString();
@@ -70,7 +66,7 @@ bool UiApplier::apply(QWidget* widget, const QString& entryName, const UiItem& i
 
 QString UiApplier::panelStyleSheet(const UiItem& item, const QString& imageFolder,
                                    const QString& selector) {
-    const QString image = isSet(item.image[UiItem::Default])
+    const QString image = UiItem::isSet(item.image[UiItem::Default])
                               ? imageUrl(imageFolder, item.image[UiItem::Default]) +
                                     QStringLiteral(" 0 0 0 0 full full")
                               : QStringLiteral("none");
@@ -98,18 +94,18 @@ QString UiApplier::buttonStyleSheet(const UiItem& item, const QString& imageFold
 
 QString UiApplier::labelStyleSheet(const UiItem& item, const QString& selector) {
     const QString background =
-        isSet(item.color[UiItem::Default]) ? item.color[UiItem::Default] : "transparent";
+        UiItem::isSet(item.color[UiItem::Default]) ? item.color[UiItem::Default] : "transparent";
     return QStringLiteral("%1{border: none; background: %2; color: %3;}")
         .arg(selector, background, item.textColor[UiItem::Default]);
 }
 
 QString UiApplier::fieldStyleSheet(const UiItem& item, const QString& selector) {
     const QString background =
-        isSet(item.color[UiItem::Default]) ? item.color[UiItem::Default] : "transparent";
-    const QString border = isSet(item.border[UiItem::Default]) ? item.border[UiItem::Default]
+        UiItem::isSet(item.color[UiItem::Default]) ? item.color[UiItem::Default] : "transparent";
+    const QString border = UiItem::isSet(item.border[UiItem::Default]) ? item.border[UiItem::Default]
                                                                : QStringLiteral("#3a4150");
     const QString accent =
-        isSet(item.color[UiItem::Select]) ? item.color[UiItem::Select] : QStringLiteral("#2f7cf6");
+        UiItem::isSet(item.color[UiItem::Select]) ? item.color[UiItem::Select] : QStringLiteral("#2f7cf6");
     return QStringLiteral("%1{background: %2; color: %3; border: 1px solid %4; border-radius: 3px; "
                           "padding: 0px 6px; selection-background-color: %5; "
                           "selection-color: #ffffff;} %1:focus{border-color: %5;} "
@@ -127,12 +123,12 @@ QString UiApplier::choiceStyleSheet(const UiItem& item, const QString& imageFold
                                    "border: 1px solid #8a93a3; border-radius: %2; "
                                    "background: transparent;} %1:disabled{color: #6b7280;}")
                         .arg(selector, radius);
-    if (isSet(item.image[UiItem::Select]))
+    if (UiItem::isSet(item.image[UiItem::Select]))
         sheet += QStringLiteral(" %1::indicator:checked{border: none; image: %2;}")
                      .arg(selector, imageUrl(imageFolder, item.image[UiItem::Select]));
     else
         sheet += QStringLiteral(" %1::indicator:checked{background: %2; border-color: %2;}")
-                     .arg(selector, isSet(item.color[UiItem::Select]) ? item.color[UiItem::Select]
+                     .arg(selector, UiItem::isSet(item.color[UiItem::Select]) ? item.color[UiItem::Select]
                                                                       : QStringLiteral("#2f7cf6"));
     return sheet;
 }

@@ -37,4 +37,12 @@ struct UiItem {
 
     // True when the view should build and show this child at all.
     bool usable() const { return status != -1 && enable; }
+    // Whether a value of the file says anything: "none" and an empty value do not.
+    static bool isSet(const QString& value) {
+        return !value.isEmpty() && value != QLatin1String("none");
+    }
+    // The background colour of a state, or fallback where the file gives none.
+    QString colourOr(State state, const char* fallback) const {
+        return isSet(color[state]) ? color[state] : QString::fromLatin1(fallback);
+    }
 };
