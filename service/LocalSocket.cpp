@@ -7,6 +7,7 @@
 
 LocalSocket* LocalSocket::link = nullptr;
 bool LocalSocket::serviceConnected = false;
+int LocalSocket::waitMs = LocalSocket::kWaitMs;
 
 namespace {
 
@@ -150,7 +151,7 @@ QString LocalSocket::getMessage() {
         for (int wait = 0; wait < kWaitCount; ++wait) {
             logInfo("Wait... ");
             // Runs onRecvMessage() when bytes arrive.
-            m_socket->waitForReadyRead(kWaitMs);
+            m_socket->waitForReadyRead(waitMs);
             if (!m_lastMessage.isEmpty()) {
                 waitedOut = false;
                 break;

@@ -25,6 +25,9 @@ public:
     // getMessage() waits this many times this long before it gives the link up.
     static constexpr int kWaitCount = 10;
     static constexpr int kWaitMs = 1000;
+    // The length of one of those waits: kWaitMs, shorter only where a test waits out a
+    // silent service.
+    static int waitMs;
 
     // The program's link, made by the main window; null before and after.
     static LocalSocket* link;

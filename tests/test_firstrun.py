@@ -344,10 +344,14 @@ def run_case(name, arguments):
         front, rears = scene_rects(*window)
         scenes = list(zip(("front scene", "rear scene 1", "rear scene 2"), [front] + rears))
 
-        # The first recording starts by itself; wait for its picture.
+        # The first recording starts by itself; wait for its moving picture (the waiting
+        # logo before it is not black either, but it stands still).
         def showing():
+            before = Screen()
+            time.sleep(0.3)
             grab = Screen()
-            return grab if grab.share(front, not_black) > 0.5 else None
+            return grab if grab.share(front, not_black) > 0.5 and \
+                grab.differs(before, front) > 0.002 else None
         first = wait_until(showing, 30, 0.5) or Screen()
         time.sleep(1.2)
         second = Screen()

@@ -87,7 +87,7 @@ class TestPlayback : public QObject {
     }
 
     // Every rear camera shows the front camera's frame in two of three samples and is at
-    // most one frame off in the others (a grab between repaints). One grab of twelve may
+    // most one frame off in the others (a grab between repaints). One grab of nine may
     // catch a scene late in redrawing on a busy machine; a channel out of step is off in
     // all of them. Faster than normal, frames follow each other closer than the grabs can
     // tell apart, and the sound's own delay at that speed puts the front a few ms off:
@@ -98,7 +98,7 @@ class TestPlayback : public QObject {
         int samples = 0;
         int farOff = 0;
         QString seen;
-        for (int k = 0; k < 12; ++k) {
+        for (int k = 0; k < 9; ++k) {
             QTest::qWait(170);
             const QVector<int> frames = framesOnScreen();
             seen += QString(" %1/%2/%3").arg(frames[0]).arg(frames[1]).arg(frames[2]);

@@ -259,7 +259,9 @@ private slots:
         window.paints = 0;
 
         QObject owner;
+        LocalSocket::waitMs = 200; // the ten waits, each shorter
         LocalSocket* link = connectLink(&owner);
+        LocalSocket::waitMs = LocalSocket::kWaitMs;
         // Drawn between the waits, not only after them.
         QVERIFY2(window.paints >= LocalSocket::kWaitCount / 2,
                  qPrintable(QString::number(window.paints)));

@@ -24,11 +24,12 @@ tavoric_install_packages() {
     # The map page's browser test runs on Node.js; machines that have it from elsewhere keep
     # theirs (Debian's npm would conflict with it).
     command -v npm >/dev/null 2>&1 || TAVORIC_PACKAGES+=(nodejs npm)
+    local installed
+    installed=" $(dpkg-query -W -f='${Package}=${Status}\n' "${TAVORIC_PACKAGES[@]}" 2>/dev/null |
+        sed -n 's/=install ok installed$//p' | tr '\n' ' ') "
     local package
     for package in "${TAVORIC_PACKAGES[@]}"; do
-        if ! dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q "install ok installed"; then
-            missing+=("$package")
-        fi
+        [[ "$installed" == *" $package "* ]] || missing+=("$package")
     done
     if ((${#missing[@]})); then
         echo "Installing: ${missing[*]}"
@@ -43,8 +44,11 @@ tavoric_install_packages() {
 # of the time of one compile per source on a machine with two cores; the benchmarks are
 # built by tools/bench.sh.
 tavoric_build() {
-    cmake -S "$TAVORIC_ROOT" -B "$TAVORIC_BUILD" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo \
-        -DCMAKE_UNITY_BUILD=ON >/dev/null
+    # A configured build folder configures itself again when a CMakeLists.txt changes.
+    if ! grep -qs "^CMAKE_UNITY_BUILD:BOOL=ON$" "$TAVORIC_BUILD/CMakeCache.txt"; then
+        cmake -S "$TAVORIC_ROOT" -B "$TAVORIC_BUILD" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo \
+            -DCMAKE_UNITY_BUILD=ON >/dev/null
+    fi
     cmake --build "$TAVORIC_BUILD" -j "$(nproc)"
 }
 
