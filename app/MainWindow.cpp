@@ -24,6 +24,7 @@
 #include "TavFileListItem.h"
 #include "TavPrompt.h"
 #include "TavShortcutTable.h"
+#include "TavTypeButton.h"
 #include "TavTypeList.h"
 #include "TavWidget.h"
 #include "TopBar.h"
@@ -178,6 +179,17 @@ void MainWindow::setupUi() {
     m_typeList = new TavTypeList(m_central);
     m_central->addChild(m_typeList, "lFileType", TavWidget::Style::None);
     m_typeList->hide(); // a pop-up: shown from the combo
+    // One click filters the list by one type, or shows every type again.
+    const struct {
+        const char* entry;
+        int fileType;
+    } typeButtons[] = {{"bAllType", 15}, {"bInfinity", 1}, {"bParking", 4}, {"bEvent", 2}};
+    for (int i = 0; i < 4; ++i) {
+        m_typeButtons[i] = new TavTypeButton(m_central, typeButtons[i].fileType);
+        m_typeButtons[i]->setFocusPolicy(Qt::NoFocus);
+        m_central->addChild(m_typeButtons[i], typeButtons[i].entry, TavWidget::Style::Button);
+    }
+    onShowTypeMask(15);
     m_map = new MapView(m_central);
     m_central->addChild(m_map, "MapView", TavWidget::Style::None);
 
@@ -235,6 +247,7 @@ void MainWindow::connectViews() {
         connect(this, &MainWindow::onSendAlwaysTopUiChange, m_topBar, &TopBar::onChangeAlwaysTopUi);
         connect(m_player, &PlayerInterface::onSetPlayData, m_topBar, &TopBar::setFileName);
         connect(m_player, &PlayerInterface::onSendClear, m_topBar, &TopBar::unsetFileName);
+        connect(this, &MainWindow::onSendClear, m_topBar, &TopBar::unsetFileName);
     }
     if (enabled("shortcutTable")) {
         connect(m_shortcuts, &TavShortcutTable::onSendSignalLanguage, this,
@@ -251,7 +264,9 @@ void MainWindow::connectViews() {
                 &MainWindow::openSettingDlg);
         connect(m_shortcuts, &TavShortcutTable::onSendSignalAbout, this, &MainWindow::openAboutDlg);
     }
-    connect(m_card, &CardSession::onSendSDCardFile, this, &MainWindow::onSendFileList);
+    connect(m_card, &CardSession::onSendSDCardFile, this, &MainWindow::onCardFiles);
+    connect(this, &MainWindow::onSendStop, m_player, &PlayerInterface::onClickStop);
+    connect(m_player, &PlayerInterface::onSetPlayData, this, &MainWindow::onRecvRefresh);
     connect(m_card, &CardSession::onSendCardContentsGone, this, &MainWindow::onCardContentsGone);
     connect(m_card, &CardSession::onSendNotSaveSetting, this, &MainWindow::onSetNotSaveSetting);
     connect(m_card, &CardSession::onSendChangeLanguage, this, &MainWindow::onSendChangeLanguage);
@@ -275,12 +290,25 @@ void MainWindow::connectViews() {
         connect(this, &MainWindow::onSendChangeLanguage, m_fileList,
                 &TavFileListItem::onChangeLanguage);
         connect(this, &MainWindow::onSendFileList, m_fileList, &TavFileListItem::onReceiveFileList);
+        connect(this, &MainWindow::onSendClear, m_fileList, &TavFileListItem::onDeleteAllFileAtList);
         if (enabled("shortcutTable")) {
             connect(m_shortcuts, &TavShortcutTable::onSendSignalFolder, m_fileList,
                     &TavFileListItem::onOpenFolderDlg);
             connect(m_shortcuts, &TavShortcutTable::onSendSignalFile, m_fileList,
                     &TavFileListItem::recvReqFileOpen);
         }
+    }
+    if (enabled("cbfileState")) {
+        const char* const typeEntries[] = {"bAllType", "bInfinity", "bParking", "bEvent"};
+        for (int i = 0; i < 4; ++i) {
+            if (enabled(typeEntries[i]))
+                connect(m_typeButtons[i], &TavTypeButton::onSendCheckedType, this,
+                        &MainWindow::onTypeFilter);
+        }
+        connect(this, &MainWindow::onSendSelectType, m_fileCombo,
+                &TavFileComboBox::onUpdateSetData);
+        connect(m_fileCombo, &TavFileComboBox::onSendFileTypeFilter, this,
+                &MainWindow::onShowTypeMask);
     }
     if (enabled("cbfileState") && enabled("lFileType")) {
         connect(m_fileCombo, &TavFileComboBox::onSendTypeListControl, m_typeList,
@@ -294,6 +322,7 @@ void MainWindow::connectViews() {
                 &TavFileComboBox::onChangeLanguage);
         connect(this, &MainWindow::onSendChangeLanguage, m_typeList,
                 &TavTypeList::onChangeLanguage);
+        connect(this, &MainWindow::onSendSelectType, m_typeList, &TavTypeList::onSetMask);
         if (enabled("fileList")) {
             connect(m_fileList, &TavFileListItem::onSendHideTypeList, m_typeList,
                     &TavTypeList::onHideTypeList);
@@ -323,8 +352,7 @@ void MainWindow::connectViews() {
             connect(sub, &SubPlayerWindow::sendVideoResize, m_player,
                     &PlayerInterface::onResizeVideo);
             connect(sub, &SubPlayerWindow::onClickedFlip, m_player, &PlayerInterface::onFlip);
-            connect(sub, &SubPlayerWindow::onChangeView, this,
-                    [this, sub] { onChangeSceneView(sub->slot()); });
+            connect(sub, &SubPlayerWindow::onChangeView, this, &MainWindow::onChangeSceneView);
         }
         connect(m_subBack, &SubSceneBackWidget::onSendBlockKeyboardEvent, this,
                 &MainWindow::onBlockKeyboardEvent);
@@ -368,6 +396,8 @@ void MainWindow::connectControlView() {
     connect(player, &PlayerInterface::onTimeout_500ms, control,
             &PlayControlView::onSendUpdateChart);
     connect(player, &PlayerInterface::onSendClear, control, &PlayControlView::onSendClear);
+    connect(this, &MainWindow::onSendClear, control, &PlayControlView::onSendClear);
+    connect(this, &MainWindow::onSendSetPause, control, &PlayControlView::onSetPause);
     connect(player, &PlayerInterface::onSendPlayNextFile, control,
             &PlayControlView::onRecvPlayNextFile);
     connect(player, &PlayerInterface::onSendPlayPreviusFile, control,
@@ -510,17 +540,22 @@ void MainWindow::onShowPlayWindow(int channels) {
         m_subBack->raise();
 }
 
-void MainWindow::onChangeSceneView(int slot) {
+void MainWindow::onChangeSceneView(int id) {
     logDebug("MainWindow::onChangeSceneView");
-    if (slot < 1 || slot > 2)
+    SubPlayerWindow* const* found = std::find_if(
+        std::begin(m_subPlayers), std::end(m_subPlayers),
+        [id](const SubPlayerWindow* sub) { return sub->id() == id; });
+    if (found == std::end(m_subPlayers))
         return;
-    SubPlayerWindow* sub = m_subPlayers[slot - 1];
+    SubPlayerWindow* sub = *found;
     const int mainId = m_playScreen->id();
     QWidget* subScene = sub->scene();
     const int subId = sub->id();
     QWidget* mainScene = m_playScreen->swapScene(subScene, subId);
     sub->swapScene(mainScene, mainId);
     m_control->setFlipChannel(subId);
+    // Another camera in the main scene: its zoom starts anew.
+    emit onSendZoomReset();
 }
 
 bool MainWindow::hasRecording() const {
@@ -531,7 +566,7 @@ bool MainWindow::hasRecording() const {
 bool MainWindow::pauseForDialog() {
     if (PlayerInterface::playStatus != PlayerInterface::PlayRunning)
         return false;
-    m_control->onSetPause();
+    emit onSendSetPause();
     return true;
 }
 
@@ -596,10 +631,13 @@ void MainWindow::showPrintDialogs(bool paused) {
 }
 
 void MainWindow::restoreScenes() {
-    for (SubPlayerWindow* sub : m_subPlayers) {
-        if (sub->id() == 0)
-            onChangeSceneView(sub->slot());
-    }
+    // The front camera shown in a rear scene goes back to the main scene.
+    onChangeSceneView(0);
+}
+
+void MainWindow::onRecvRefresh() {
+    logDebug("MainWindow::onRecvRefresh");
+    restoreScenes();
 }
 
 void MainWindow::onBlockKeyboardEvent(bool block) {
@@ -685,6 +723,8 @@ void MainWindow::openLangaugeDlg() {
     LanguageView dialog(this);
     connect(&dialog, &LanguageView::onSendChangeLanguage, this, &MainWindow::onSendChangeLanguage);
     connect(&dialog, &QDialog::finished, this, &MainWindow::onFinishedDlg);
+    if (enabled("shortcutTable"))
+        connect(&dialog, &QDialog::finished, m_shortcuts, &TavShortcutTable::setBackUi);
     dialog.move(geometry().center() - dialog.rect().center());
     dialog.exec();
 }
@@ -707,12 +747,31 @@ void MainWindow::onCardContentsGone(const QString& root) {
     logDebug("MainWindow::onCardContentsGone");
     const QString prefix = QDir::cleanPath(root) + '/';
     if (PlayerInterface::currentFile.startsWith(prefix))
-        m_player->onClickStop(true);
+        emit onSendStop(true);
     const bool listed = std::any_of(
         TavFileListItem::records.cbegin(), TavFileListItem::records.cend(),
         [&prefix](const RecordingRecord& record) { return record.filePath.startsWith(prefix); });
-    if (listed && enabled("fileList"))
-        m_fileList->onDeleteAllFileAtList();
+    if (listed)
+        emit onSendClear();
+}
+
+void MainWindow::onCardFiles(const QStringList& paths) {
+    logDebug("MainWindow::onCardFiles");
+    // The card's recordings take the list's place: what plays from the old list stops first.
+    if (hasRecording())
+        emit onSendStop(true);
+    emit onSendFileList(paths);
+}
+
+void MainWindow::onTypeFilter(int fileType) {
+    logDebug("MainWindow::onTypeFilter");
+    emit onSendHideTypeList();
+    emit onSendSelectType(fileType & 15);
+}
+
+void MainWindow::onShowTypeMask(int mask) {
+    for (TavTypeButton* button : m_typeButtons)
+        button->setChecked(button->fileType() == mask);
 }
 
 void MainWindow::onFinishedDlg() {
@@ -763,6 +822,7 @@ void MainWindow::connectTelemetryViews() {
         connect(m_player, &PlayerInterface::onSetTextData, m_map, &MapView::onLoadMap);
         connect(m_player, &PlayerInterface::onTimeout_500ms, m_map, &MapView::onUpdateMap);
         connect(m_player, &PlayerInterface::onSendClear, m_map, &MapView::onClearData);
+        connect(this, &MainWindow::onSendClear, m_map, &MapView::onClearData);
         connect(m_map, &MapView::onSendBlockKeyboardEvent, this, &MainWindow::onBlockKeyboardEvent);
         if (enabled("bMap"))
             connect(m_mapButton, &QPushButton::clicked, this, &MainWindow::onRaiseMap);

@@ -21,6 +21,7 @@ class QStackedWidget;
 class RightSideView;
 class ServiceSession;
 class TavShortcutTable;
+class TavTypeButton;
 class TavWidget;
 class TopBar;
 class WaitPlayLogo;
@@ -61,6 +62,13 @@ signals:
     void onSendBlockEvent(bool block);
     void onSendMapShow(bool show);
     void onSendFileList(const QStringList& paths);
+    // The type mask a type button chose, for the type filter.
+    void onSendSelectType(int mask);
+    // Requests to the panel and the coordinator: pause what plays, stop it.
+    void onSendSetPause();
+    void onSendStop(bool isClick);
+    // Every view lets go of the recording and the list of its rows.
+    void onSendClear();
 
 public slots:
     void onAgreeDlgFinished(int result);
@@ -74,7 +82,8 @@ public slots:
     void onBlockEvent(bool block);
     void onShowPlayWindow(int channels);
     void onBlockKeyboardEvent(bool block);
-    // Shows the channel of a rear scene in the main scene and the main scene's channel there.
+    // Shows camera id (shown in a rear scene) in the main scene, and the main scene's camera
+    // in that rear scene.
     void onChangeSceneView(int id);
     // Every channel back in its own scene.
     void restoreScenes();
@@ -89,8 +98,16 @@ public slots:
     // The card at root went away or is being formatted: what plays from it stops, and the
     // list lets go of its recordings.
     void onCardContentsGone(const QString& root);
+    // The recordings of the card opened in the card dialog.
+    void onCardFiles(const QStringList& paths);
     void onFinishedDlg();
     void onChangeTextByLanguage();
+    // A type button was clicked: 15 shows every type, a type bit (1, 2, 4) that type only.
+    void onTypeFilter(int fileType);
+    // A new recording's data is set: each camera back in its own scene, the zoom reset.
+    void onRecvRefresh();
+    // The type buttons follow the filter's mask, however it was chosen.
+    void onShowTypeMask(int mask);
     // Saves the picture each camera shows now into the snapshot folder.
     void onGetImage();
     void openPrintDlg();
@@ -140,6 +157,8 @@ private:
     SubSceneBackWidget* m_subBack = nullptr;
     SubPlayerWindow* m_subPlayers[2] = {nullptr, nullptr};
     PlayControlView* m_control = nullptr;
+    // "bAllType", "bInfinity", "bParking", "bEvent".
+    TavTypeButton* m_typeButtons[4] = {nullptr, nullptr, nullptr, nullptr};
     PlayerInterface* m_player = nullptr;
     CardSession* m_card = nullptr;
     ServiceSession* m_service = nullptr;

@@ -2,6 +2,7 @@
 
 #include "StatusLog.h"
 
+#include <QCursor>
 #include <QPushButton>
 
 TavShortcutTable::TavShortcutTable(QWidget* parent) : TavWidget("TavShortcutTable", parent) {
@@ -33,4 +34,17 @@ void TavShortcutTable::onChangeToolTipLanguage() {
     logDebug("TavShortcutTable::onChangeToolTipLanguage");
     for (const Shortcut& shortcut : m_shortcuts)
         shortcut.button->setToolTip(tr(shortcut.toolTip));
+}
+
+void TavShortcutTable::setBackUi(int) {
+    logDebug("TavShortcutTable::setBackUi");
+    const QPoint pointer = QCursor::pos();
+    for (const Shortcut& shortcut : m_shortcuts) {
+        QPushButton* button = shortcut.button;
+        button->setDown(false);
+        const bool under = button->isVisible() &&
+                           button->rect().contains(button->mapFromGlobal(pointer));
+        button->setAttribute(Qt::WA_UnderMouse, under);
+        button->update();
+    }
 }

@@ -25,6 +25,9 @@ signals:
 
 public slots:
     void onChangeToolTipLanguage();
+    // After a dialog that a button opened: every button looks as it does without the pointer
+    // on it (the pointer's leaving went to the dialog). The dialog's result is not used.
+    void setBackUi(int result);
 
 private:
     struct Shortcut {

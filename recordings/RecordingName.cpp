@@ -22,7 +22,7 @@ const char* const RecordingName::kTwoDigitChannelAvi =
     "([0-5][0-9])_([EIPU][NVRS][FTKR])_([12345])_([12345]).avi";
 const char* const RecordingName::kFrontOnlyMp4 =
     "(19|20)\\d{2}(0[1-9]|1[012])(0[1-9]|1[0-9]|2[0-9]|3[01])_(0[0-9]|1[0-9]|2[0-3])([0-5][0-9])"
-    "([0-5][0-9])_([EIPU][NVRS][FTKR])_[1].mp4";
+    "([0-5][0-9])_([EIPU][NVRS][FTKR])_[14].mp4";
 
 const char* const RecordingName::kMp4ChannelSuffixes[3] = {"_1.mp4", "_2.mp4", "_3.mp4"};
 const char* const RecordingName::kAviChannelSuffixes[3] = {"_1.avi", "_2.avi", "_3.avi"};

@@ -21,7 +21,8 @@ public:
     static const char* const kSingleChannelAvi;
     static const char* const kSingleChannelMp4;
     static const char* const kTwoDigitChannelAvi;
-    // Front files only; the card dialog lists cameras with a file per channel by these.
+    // Front files only, and one-file recordings (_4, every camera in one file); the card
+    // dialog lists cameras with a file per channel by these.
     static const char* const kFrontOnlyMp4;
 
     // Channel suffixes: index 0 is the front camera, 1 and 2 the rear cameras.

@@ -85,6 +85,11 @@ int TavTypeList::mask() const {
     return mask;
 }
 
+void TavTypeList::onSetMask(int mask) {
+    for (TavTypeButton* toggle : m_toggles)
+        toggle->setChecked((mask & toggle->fileType()) != 0);
+}
+
 void TavTypeList::onSetData() {
     logDebug("TavTypeList::onSetData");
     emit onSendCurrentType(mask());

@@ -30,6 +30,8 @@ public slots:
     void onHideTypeList();
     void onSetData();
     void onChangeLanguage();
+    // The toggles show mask, chosen elsewhere; nothing is sent.
+    void onSetMask(int mask);
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;

@@ -9,8 +9,17 @@
 #include "LanguageView.h"
 #include "MainWindow.h"
 #include "MapView.h"
+#include "PlayControlView.h"
+#include "PlayScreenWindow.h"
+#include "PlayerInterface.h"
+#include "SubPlayerWindow.h"
+#include "SubSceneBackWidget.h"
+#include "TavFileComboBox.h"
+#include "TavFileListItem.h"
 #include "TavPrompt.h"
 #include "TavShortcutTable.h"
+#include "TavTypeButton.h"
+#include "TavTypeList.h"
 #include "TopBar.h"
 #include "UiApplier.h"
 #include "UiDescription.h"
@@ -425,6 +434,185 @@ private slots:
         });
         QCOMPARE(TavPrompt::openFolder(m_parent, QStringLiteral("Open Folder")), QString());
         QVERIFY2(light >= 0 && light < 80, qPrintable(QString::number(light)));
+    }
+
+    // One click on a type button filters the list; the filter's face and pop-up follow.
+    void typeButtonsFilterWithOneClick() {
+        QTemporaryDir folder;
+        QStringList paths;
+        for (const char* name : {"20240101_100000_INF_1.mp4", "20240101_100100_EVT_1.mp4",
+                                 "20240101_100200_PRK_1.mp4", "20240101_100300_USR_1.mp4"}) {
+            QFile file(folder.filePath(name));
+            QVERIFY(file.open(QIODevice::WriteOnly));
+            paths << file.fileName();
+        }
+        emit m_window->onSendFileList(paths);
+        QTRY_COMPARE(TavFileListItem::records.size(), 4);
+        auto* list = m_window->findChild<TavTypeList*>();
+        QTest::mouseClick(child<TavTypeButton>("bParking"), Qt::LeftButton);
+        QCOMPARE(TavFileListItem::visibleRows, QVector<int>{2});
+        QCOMPARE(child<QLabel>("textState")->text(), QString("  Filter"));
+        QCOMPARE(list->mask(), 4);
+        QVERIFY(child<TavTypeButton>("bParking")->isChecked());
+        QVERIFY(!child<TavTypeButton>("bAllType")->isChecked());
+        QTest::mouseClick(child<TavTypeButton>("bParking"), Qt::LeftButton); // stays chosen
+        QVERIFY(child<TavTypeButton>("bParking")->isChecked());
+        QTest::mouseClick(child<TavTypeButton>("bAllType"), Qt::LeftButton);
+        QCOMPARE(TavFileListItem::visibleRows.size(), 4);
+        QCOMPARE(child<QLabel>("textState")->text(), QString("  All Type"));
+        QCOMPARE(list->mask(), 15);
+        // A choice in the pop-up that no button stands for leaves none of them chosen.
+        list->toggle(8)->click();
+        QCOMPARE(TavFileListItem::visibleRows.size(), 3);
+        for (const char* name : {"bAllType", "bInfinity", "bParking", "bEvent"})
+            QVERIFY2(!child<TavTypeButton>(name)->isChecked(), name);
+        emit m_window->onSendClear();
+        QVERIFY(TavFileListItem::records.isEmpty());
+        list->toggle(8)->click();
+    }
+
+    // The window's routes between the views, row by row: each is found (and taken away, so
+    // this runs last) by the sender, signal, receiver and slot or signal it joins.
+    void everyRouteOfTheWiringIsMade() {
+        MainWindow* const self = m_window;
+        PlayerInterface* const player = m_window->player();
+        auto* topBar = child<TopBar>("topBar");
+        auto* shortcuts = m_window->findChild<TavShortcutTable*>();
+        auto* control = child<PlayControlView>("ControlView");
+        auto* map = m_window->findChild<MapView*>();
+        auto* list = m_window->findChild<TavFileListItem*>();
+        auto* combo = m_window->findChild<TavFileComboBox*>();
+        auto* typeList = m_window->findChild<TavTypeList*>();
+        auto* screen = child<PlayScreenWindow>("PlayScreenView");
+        auto* back = m_window->findChild<SubSceneBackWidget*>();
+        auto* sub1 = child<SubPlayerWindow>("subPlayerWindow1");
+        auto* sub2 = child<SubPlayerWindow>("subPlayerWindow2");
+        QVERIFY(player && topBar && shortcuts && control && map && list && combo && typeList &&
+                screen && back && sub1 && sub2);
+        QStringList missing;
+#define ROUTE(sender, signal, receiver, slot)                                                \
+    if (!QObject::disconnect(sender, &signal, receiver, &slot))                                \
+    missing << QStringLiteral(#sender " " #signal " -> " #receiver " " #slot)
+        ROUTE(player, PlayerInterface::onSendLogoSet, self, MainWindow::onShowLogo);
+        ROUTE(player, PlayerInterface::onSetBlockEvent, self, MainWindow::onBlockEvent);
+        ROUTE(player, PlayerInterface::onSendShowWindow, self, MainWindow::onShowPlayWindow);
+        ROUTE(topBar, TopBar::onClickMaximized, self, MainWindow::onShowMaximized);
+        ROUTE(topBar, TopBar::onClickMinimized, self, MainWindow::onShowMinimized);
+        ROUTE(topBar, TopBar::onClick_bFullScreen, self, MainWindow::onRecvFullScreen);
+        ROUTE(topBar, TopBar::onClickAlwaysViewTop, self, MainWindow::onFixedTopScreen);
+        ROUTE(topBar, TopBar::onSendUpdate, self, MainWindow::onUpdateMonitorSize);
+        ROUTE(self, MainWindow::onSendAlwaysTopUiChange, topBar, TopBar::onChangeAlwaysTopUi);
+        ROUTE(shortcuts, TavShortcutTable::onSendSignalFolder, list,
+              TavFileListItem::onOpenFolderDlg);
+        ROUTE(shortcuts, TavShortcutTable::onSendSignalMemory, self, MainWindow::openSDCardDlg);
+        ROUTE(shortcuts, TavShortcutTable::onSendSignalPrint, self, MainWindow::openPrintDlg);
+        ROUTE(shortcuts, TavShortcutTable::onSendSignalLanguage, self,
+              MainWindow::openLangaugeDlg);
+        ROUTE(shortcuts, TavShortcutTable::onSendCapture, control,
+              PlayControlView::onClick_bCapture);
+        ROUTE(shortcuts, TavShortcutTable::onSendSignalSetting, self, MainWindow::openSettingDlg);
+        ROUTE(shortcuts, TavShortcutTable::onSendSignalAbout, self, MainWindow::openAboutDlg);
+        ROUTE(child<QPushButton>("bFilelist"), QPushButton::clicked, self,
+              MainWindow::onRaiseFilelist);
+        ROUTE(child<QPushButton>("bMap"), QPushButton::clicked, self, MainWindow::onRaiseMap);
+        for (const char* name : {"bAllType", "bInfinity", "bParking", "bEvent"}) {
+            ROUTE(child<TavTypeButton>(name), TavTypeButton::onSendCheckedType, self,
+                  MainWindow::onTypeFilter);
+        }
+        ROUTE(self, MainWindow::onSendSelectType, combo, TavFileComboBox::onUpdateSetData);
+        ROUTE(self, MainWindow::onSendMapShow, map, MapView::onMapShow);
+        ROUTE(control, PlayControlView::onSendRefreshImage, self, MainWindow::onGetImage);
+        ROUTE(self, MainWindow::onSendSetPause, control, PlayControlView::onSetPause);
+        ROUTE(self, MainWindow::onSendStop, player, PlayerInterface::onClickStop);
+        ROUTE(control, PlayControlView::onSendOpenFile, player, PlayerInterface::checkFileReady);
+        ROUTE(control, PlayControlView::onSendPlay, player, PlayerInterface::onPlay);
+        ROUTE(control, PlayControlView::onClickedPause, player, PlayerInterface::onPause);
+        ROUTE(control, PlayControlView::onClickedStop, player, PlayerInterface::onClickStop);
+        ROUTE(control, PlayControlView::onSendStop, player, PlayerInterface::onStop);
+        ROUTE(control, PlayControlView::onClicked5sMove, player, PlayerInterface::on5sMove);
+        ROUTE(control, PlayControlView::onClickMoveFrame, player, PlayerInterface::onFrameMove);
+        ROUTE(control, PlayControlView::onChangePlayPosition, player,
+              PlayerInterface::onPlayPosMove);
+        ROUTE(control, PlayControlView::onSendChangeSpeed, player,
+              PlayerInterface::onControlSpeed);
+        ROUTE(control, PlayControlView::onClickedMute, player, PlayerInterface::onSetMute);
+        ROUTE(control, PlayControlView::onSendVolumeChange, player,
+              PlayerInterface::onControlVolume);
+        ROUTE(control, PlayControlView::onClickedFlip, player, PlayerInterface::onFlip);
+        ROUTE(control, PlayControlView::onSendStopTimer, player, PlayerInterface::onStopTimer);
+        ROUTE(control, PlayControlView::onSendRestartTimer, player,
+              PlayerInterface::onRestartTimer);
+        ROUTE(control, PlayControlView::onClickedDelete, list,
+              TavFileListItem::onDeleteCurrentFile);
+        ROUTE(player, PlayerInterface::onSetPlayData, topBar, TopBar::setFileName);
+        ROUTE(player, PlayerInterface::onSetTextData, map, MapView::onLoadMap);
+        ROUTE(player, PlayerInterface::onTimeout_500ms, map, MapView::onUpdateMap);
+        ROUTE(player, PlayerInterface::onSetPlayData, control, PlayControlView::onSetPlayData);
+        ROUTE(player, PlayerInterface::onTimeout_500ms, control, PlayControlView::onUpdateSlider);
+        ROUTE(player, PlayerInterface::onUpdateTimeNow, control, PlayControlView::onUpdateSlider);
+        ROUTE(player, PlayerInterface::onSetTextData, control, PlayControlView::onSendLoadChart);
+        ROUTE(player, PlayerInterface::onTimeout_500ms, control,
+              PlayControlView::onSendUpdateChart);
+        ROUTE(player, PlayerInterface::onSendClear, topBar, TopBar::unsetFileName);
+        ROUTE(player, PlayerInterface::onSendClear, map, MapView::onClearData);
+        ROUTE(player, PlayerInterface::onSendClear, control, PlayControlView::onSendClear);
+        ROUTE(self, MainWindow::onSendClear, topBar, TopBar::unsetFileName);
+        ROUTE(self, MainWindow::onSendClear, map, MapView::onClearData);
+        ROUTE(self, MainWindow::onSendClear, control, PlayControlView::onSendClear);
+        ROUTE(self, MainWindow::onSendClear, list, TavFileListItem::onDeleteAllFileAtList);
+        ROUTE(player, PlayerInterface::onTimeout_1s, screen, PlayScreenWindow::onSetZoom);
+        ROUTE(self, MainWindow::onSendZoomReset, screen, PlayScreenWindow::onResetZoom);
+        ROUTE(player, PlayerInterface::onSendZoomReset, screen, PlayScreenWindow::onResetZoom);
+        ROUTE(self, MainWindow::onSendChangeLanguage, shortcuts,
+              TavShortcutTable::onChangeToolTipLanguage);
+        ROUTE(self, MainWindow::onSendChangeLanguage, combo, TavFileComboBox::onChangeLanguage);
+        ROUTE(self, MainWindow::onSendChangeLanguage, typeList, TavTypeList::onChangeLanguage);
+        ROUTE(self, MainWindow::onSendChangeLanguage, self, MainWindow::onChangeTextByLanguage);
+        ROUTE(combo, TavFileComboBox::onSendTypeListControl, typeList,
+              TavTypeList::onControlTypeList);
+        ROUTE(list, TavFileListItem::onSendHideTypeList, typeList, TavTypeList::onHideTypeList);
+        ROUTE(self, MainWindow::onSendHideTypeList, typeList, TavTypeList::onHideTypeList);
+        // The pop-up's chosen types go to the filter's face, and whether it is open to the
+        // face's button.
+        ROUTE(typeList, TavTypeList::onSendCurrentType, combo, TavFileComboBox::onUpdateSetData);
+        ROUTE(typeList, TavTypeList::onSendTypeListSet, combo,
+              TavFileComboBox::onUpdateListState);
+        ROUTE(self, MainWindow::onSendFileList, list, TavFileListItem::onReceiveFileList);
+        ROUTE(self, MainWindow::onSendStopItemThread, list, TavFileListItem::onSendThreadStop);
+        ROUTE(list, TavFileListItem::onSendFinishReadFileTime, list,
+              TavFileListItem::onFinishReadFileTime);
+        ROUTE(list, TavFileListItem::onSendRefreshFilter, combo, TavFileComboBox::onUpdateList);
+        ROUTE(combo, TavFileComboBox::onSendFileTypeFilter, list, TavFileListItem::onSortFile);
+        ROUTE(list, TavFileListItem::doubleClickedItem, player, PlayerInterface::checkFileReady);
+        ROUTE(list, TavFileListItem::onSendPause, control, PlayControlView::onSetPause);
+        ROUTE(list, TavFileListItem::onSendStop, player, PlayerInterface::onStop);
+        ROUTE(list, TavFileListItem::onSendLogoSet, self, MainWindow::onShowLogo);
+        ROUTE(list, TavFileListItem::onSetBlockEvent, self, MainWindow::onBlockEvent);
+        ROUTE(player, PlayerInterface::onSendFileAllDelete, list,
+              TavFileListItem::onDeleteAllFileAtList);
+        ROUTE(self, MainWindow::onSendBlockEvent, list, TavFileListItem::onBlockEvent);
+        ROUTE(self, MainWindow::onSendBlockEvent, control, PlayControlView::onBlockEvent);
+        ROUTE(control, PlayControlView::onCallNextFile, list, TavFileListItem::onForwardItemSet);
+        ROUTE(control, PlayControlView::onChangePlayFile, list,
+              TavFileListItem::onChangePlayItem);
+        ROUTE(player, PlayerInterface::onSendPlayNextFile, control,
+              PlayControlView::onRecvPlayNextFile);
+        ROUTE(player, PlayerInterface::onSendPlayPreviusFile, control,
+              PlayControlView::onRecvPlayBackFile);
+        ROUTE(player, PlayerInterface::onSendSetPlayButton, control,
+              PlayControlView::onSetPlayButton);
+        ROUTE(player, PlayerInterface::onSetPlayData, self, MainWindow::onRecvRefresh);
+        for (SubPlayerWindow* sub : {sub1, sub2}) {
+            ROUTE(player, PlayerInterface::onInitResizeView, sub, SubPlayerWindow::onResetView);
+            ROUTE(sub, SubPlayerWindow::sendVideoResize, player, PlayerInterface::onResizeVideo);
+            ROUTE(sub, SubPlayerWindow::onChangeView, self, MainWindow::onChangeSceneView);
+            ROUTE(sub, SubPlayerWindow::onClickedFlip, player, PlayerInterface::onFlip);
+        }
+        ROUTE(back, SubSceneBackWidget::onSendBlockKeyboardEvent, self,
+              MainWindow::onBlockKeyboardEvent);
+        ROUTE(player, PlayerInterface::onSendClear, back, SubSceneBackWidget::ClearPosition);
+#undef ROUTE
+        QVERIFY2(missing.isEmpty(), qPrintable(missing.join('\n')));
     }
 };
 

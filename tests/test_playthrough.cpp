@@ -1,10 +1,13 @@
 // Playing recordings as a user does, on the real main window with real libvlc.
 #include "AppGlobals.h"
+#include "CardFixture.h"
+#include "ConfigAccess.h"
 #include "MainWindow.h"
 #include "PlayScreenWindow.h"
 #include "PlayerInterface.h"
 #include "PrintChannelSelectView.h"
 #include "PrintView.h"
+#include "SDCardView.h"
 #include "SaveAsView.h"
 #include "SubPlayerWindow.h"
 #include "TavFileListItem.h"
@@ -409,6 +412,55 @@ private slots:
         QVERIFY(isBlue(screenColour(m_rear2)));
         QVERIFY(isGreen(screenColour(m_rear1)));
         QCOMPARE(frameNumberSide(m_rear1, false), 1);
+    }
+
+    // The memory card opened while a recording plays: what played stops, the card's
+    // recordings (a one-file recording among them) take the list's place and stay there.
+    void cardOpenedWhilePlayingTakesTheListsPlace() {
+        CardFixture fixture(m_dir.filePath("cards"));
+        const QString root = fixture.addDrive("media/CARD", true, "CARD");
+        fixture.install();
+        const QString model = "RAVEN1_2CH";
+        QVERIFY(CardFixture::writeFile(
+            ConfigAccess::configPath(root),
+            CardFixture::configBin(
+                model, CardFixture::blocks(CardFixture::layout(
+                                               CardFixture::shippedJson("configStr.json"), model),
+                                           {}))));
+        QVERIFY(QDir().mkpath(root + "/Normal"));
+        for (const char* name : {"20240301_090000_INF_1.mp4", "20240301_090000_INF_2.mp4",
+                                 "20240301_090000_INF_3.mp4", "20240301_092000_USR_4.mp4"})
+            QVERIFY(QFile::copy(kMedia + '/' + name, root + "/Normal/" + name));
+        m_window->player()->onPlay();
+        QCOMPARE(PlayerInterface::playStatus, int(PlayerInterface::PlayRunning));
+
+        whenModal<SDCardView>([root](SDCardView* view) {
+            for (int row = 0; row < view->table()->rowCount(); ++row) {
+                if (view->table()->item(row, SDCardView::DriveColumn)->text() == root) {
+                    view->table()->setCurrentCell(row, 0);
+                    view->onClicked_Item();
+                }
+            }
+            view->onClicked_bOpenFolder();
+        });
+        QTest::mouseClick(m_window->findChild<QPushButton*>("bMemory"), Qt::LeftButton);
+        QTRY_COMPARE_WITH_TIMEOUT(VLCComponent::playerState, int(VLCComponent::Stopped), 10000);
+        QVERIFY(PlayerInterface::playStatus != PlayerInterface::PlayRunning);
+        QTRY_VERIFY(m_window->findChild<QWidget*>("WaitPlayLogo")->isVisible());
+        QCOMPARE(m_window->findChild<TopBar*>()->fileName(), QString());
+        QTRY_COMPARE(TavFileListItem::records.size(), 2);
+        // Still listed once the player's checks (every 500 ms) have had their turn.
+        QTest::qWait(1200);
+        QCOMPARE(TavFileListItem::records.size(), 2);
+        QVERIFY(TavFileListItem::records.at(1).filePath.endsWith("/Normal/20240301_092000_USR_4.mp4"));
+        QCOMPARE(VLCComponent::playerState, int(VLCComponent::Stopped));
+        // And they play from the card.
+        const QPoint cell = m_list->visualItemRect(m_list->item(0, 1)).center();
+        QTest::mouseDClick(m_list->viewport(), Qt::LeftButton, {}, cell);
+        QTRY_VERIFY_WITH_TIMEOUT(PlayerInterface::currentFile.startsWith(root) &&
+                                     VLCComponent::playerState == VLCComponent::Playing,
+                                 15000);
+        waitForEachCameraInItsScene();
     }
 };
 

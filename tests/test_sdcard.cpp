@@ -165,6 +165,7 @@ private slots:
         for (const QString& root : {m_raven, m_osprey}) {
             for (const char* name :
                  {"Normal/20240101_100000_INF_1.mp4", "Normal/20240101_100000_INF_2.mp4",
+                  "Normal/20240101_100500_USR_4.mp4",
                   "Event/20240101_101500_EVT_1.mp4", "Event/20240101_101500_EVT_1.avi",
                   "Event/20240101_101500_EVT_1_2.avi", "Normal/notes.txt",
                   "Normal/20241399_100000_INF_1.mp4", "CONFIG/20240101_100000_INF_1.mp4",
@@ -223,11 +224,12 @@ private slots:
         QTest::newRow("front files only")
             << true
             << QStringList{"Event/20240101_101500_EVT_1.avi", "Event/20240101_101500_EVT_1.mp4",
-                           "Normal/20240101_100000_INF_1.mp4"};
+                           "Normal/20240101_100000_INF_1.mp4", "Normal/20240101_100500_USR_4.mp4"};
         QTest::newRow("every channel digit")
             << false
             << QStringList{"Event/20240101_101500_EVT_1.avi", "Event/20240101_101500_EVT_1.mp4",
-                           "Normal/20240101_100000_INF_1.mp4", "Normal/20240101_100000_INF_2.mp4"};
+                           "Normal/20240101_100000_INF_1.mp4", "Normal/20240101_100000_INF_2.mp4",
+                           "Normal/20240101_100500_USR_4.mp4"};
     }
 
     void openingACardSendsItsRecordings() {

@@ -1246,6 +1246,22 @@
       <source>Map</source>
       <translation>Map</translation>
     </message>
+    <message>
+      <source>All</source>
+      <translation>All</translation>
+    </message>
+    <message>
+      <source>Infinity</source>
+      <translation>Infinity</translation>
+    </message>
+    <message>
+      <source>Parking</source>
+      <translation>Parking</translation>
+    </message>
+    <message>
+      <source>Event</source>
+      <translation>Event</translation>
+    </message>
   </context>
   <context>
     <name>ui_playControlView</name>

@@ -1253,6 +1253,22 @@
       <source>Map</source>
       <translation>מפה</translation>
     </message>
+    <message>
+      <source>All</source>
+      <translation>הכל</translation>
+    </message>
+    <message>
+      <source>Infinity</source>
+      <translation>רציף</translation>
+    </message>
+    <message>
+      <source>Parking</source>
+      <translation>חניה</translation>
+    </message>
+    <message>
+      <source>Event</source>
+      <translation>אירוע</translation>
+    </message>
   </context>
   <context>
     <name>ui_playControlView</name>

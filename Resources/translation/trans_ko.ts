@@ -1246,6 +1246,22 @@
       <source>Map</source>
       <translation>지도</translation>
     </message>
+    <message>
+      <source>All</source>
+      <translation>전체</translation>
+    </message>
+    <message>
+      <source>Infinity</source>
+      <translation>상시</translation>
+    </message>
+    <message>
+      <source>Parking</source>
+      <translation>주차</translation>
+    </message>
+    <message>
+      <source>Event</source>
+      <translation>이벤트</translation>
+    </message>
   </context>
   <context>
     <name>ui_playControlView</name>
