@@ -41,6 +41,8 @@ void ServiceSession::onRecvMessage(const QString& message) {
                            tr("find Update Version") + '\n' +
                                tr("Would you like to download now?"))) {
             m_downloadAsked = true;
+            // The link may have gone while the question waited for the user.
+            m_link->reconnectService();
             m_request.send(QStringLiteral("Download"), false);
         }
         return;

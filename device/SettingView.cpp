@@ -396,7 +396,19 @@ void SettingView::onClickApply() {
     logDebug("SettingView::onClickApply");
     if (!cardPresent())
         return;
-    m_config.writeMemory();
+    if (m_config.writeMemory())
+        onCardWritten();
+}
+
+void SettingView::onCardWritten() {
+    // The card holds what the dialog shows now: nothing is unsaved any more.
+    for (QVector<ShownItem>& group : m_items) {
+        for (ShownItem& item : group) {
+            if (item.card != -1)
+                item.card = item.shown;
+        }
+    }
+    onStateLabelChange();
 }
 
 void SettingView::onClickOk() {
@@ -498,7 +510,8 @@ void SettingView::onDeviceSetInit() {
     prepareLongAction();
     readDescriptions();
     onResetData();
-    m_config.writeMemory();
+    if (m_config.writeMemory())
+        onCardWritten();
     TavPrompt::inform(this, tr("Complete!"));
     setEnabled(true);
 }

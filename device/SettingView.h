@@ -77,6 +77,8 @@ public slots:
     void onClickApply();
     void onClickOk();
     void onStateLabelChange();
+    // After a write that held: the card's values are the shown ones.
+    void onCardWritten();
     void onFileFormat();
     void onDeviceSetInit();
     void onSetProgramFormat();

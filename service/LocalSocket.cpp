@@ -131,6 +131,21 @@ void LocalSocket::connectService() {
         qDebug() << ":)";
 }
 
+void LocalSocket::reconnectService() {
+    if (serviceConnected)
+        return;
+    logInfo("LocalSocket::reconnectService");
+    if (m_socket != nullptr) {
+        m_socket->disconnect(this);
+        m_socket->abort();
+        m_socket->deleteLater();
+        m_socket = nullptr;
+    }
+    m_lastMessage.clear();
+    m_enabled = true;
+    connectService();
+}
+
 void LocalSocket::sendMessage(const QString& text) {
     if (text == QLatin1String(kGoodbye))
         m_enabled = true;

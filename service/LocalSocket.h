@@ -32,7 +32,7 @@ public:
     // The program's link, made by the main window; null before and after.
     static LocalSocket* link;
     // True from the socket's connected notification until an error, an unconnected or
-    // closing state, an unanswered getMessage() or a confirmed close. Nothing reconnects.
+    // closing state, an unanswered getMessage() or a confirmed close, until reconnectService().
     static bool serviceConnected;
 
     explicit LocalSocket(QObject* parent = nullptr);
@@ -41,6 +41,9 @@ public:
     // Connects and greets the service. On return serviceConnected tells whether it worked:
     // a local socket's connect completes or fails within the call.
     void connectService();
+    // Connects and greets the service again when the link was lost (a service restarted,
+    // or one that hung up); a connected link is left as it is.
+    void reconnectService();
     // Writes the text when the link is connected and enabled; "GoodbyeLauncher" enables the
     // link first. A message that is not sent is not reported.
     void sendMessage(const QString& text);

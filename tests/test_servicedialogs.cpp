@@ -112,6 +112,8 @@ class TestServiceDialogs : public QObject {
     QStringList m_messages;
     QStringList m_questions;
     bool m_answer = false;
+    // The user answers only after the service has hung up.
+    bool m_answerAfterLinkLoss = false;
 
     // The status log's lines without their time stamps ("[i] N: State = ...").
     QStringList logLines() const {
@@ -167,6 +169,8 @@ private slots:
         TavPrompt::informHook = [this](const QString& text) { m_messages << text; };
         TavPrompt::askTitledHook = [this](const QString& title, const QString& text) {
             m_questions << title + ": " + text;
+            if (m_answerAfterLinkLoss)
+                (void)QTest::qWaitFor([] { return !LocalSocket::serviceConnected; }, 5000);
             return m_answer;
         };
         m_window.resize(800, 600);
@@ -426,6 +430,14 @@ private slots:
             << QStringList{"The new version has been downloaded. The program closes now so "
                            "that it can be installed."}
             << true;
+        QTest::newRow("link lost before Yes")
+            << QStringList{"@version=FindUpdate|@sleep=100|@close", "Download=wait",
+                           "DownloadWaiting=@sleep=300|complete"}
+            << true
+            << QStringList{hello, "1.0.6", hello, "Download", "DownloadWaiting", "closeToDoNot"}
+            << QStringList{"The new version has been downloaded. The program closes now so "
+                           "that it can be installed."}
+            << true;
         QTest::newRow("unknown answer") << QStringList{"@version=@garbage"} << true
                                         << QStringList{hello, "1.0.6"} << QStringList{} << false;
     }
@@ -438,6 +450,7 @@ private slots:
         QFETCH(bool, quits);
         QVERIFY(m_service.start(answers));
         m_answer = yes;
+        m_answerAfterLinkLoss = answers.join('|').contains("@close");
         ServiceSession session(&m_window);
         QVERIFY(LocalSocket::serviceConnected);
         QSignalSpy quit(&session, &ServiceSession::onSendQuitForUpdate);

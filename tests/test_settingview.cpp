@@ -368,12 +368,16 @@ private slots:
 
     void applyAndOkWriteTheCard() {
         SettingView view;
+        view.show();
         choose(view, "Speed Unit", 1);
         QCOMPARE(cardByte("Speed Unit"), 0);
-        view.onClickApply();
+        QCOMPARE(view.stateLabel()->text(), QString("There are unsaved settings."));
+        QTest::mouseClick(view.findChild<QPushButton*>("bApply"), Qt::LeftButton);
         QCOMPARE(cardByte("Speed Unit"), 1);
         QVERIFY(m_messages.isEmpty());
-        view.show();
+        QVERIFY(view.stateLabel()->text().isEmpty()); // the card holds it now
+        choose(view, "Speed Unit", 0);
+        QCOMPARE(view.stateLabel()->text(), QString("There are unsaved settings."));
         choose(view, "Volume", 5);
         view.onClickOk();
         QCOMPARE(cardByte("Volume"), 5);

@@ -287,30 +287,6 @@ private slots:
         QVERIFY(tick(map, scripts, 3000).isEmpty());
     }
 
-    void mapDragsOnlyAsAWindowOfItsOwn() {
-        MapView map;
-        map.setGeometry(100, 100, 310, 400);
-        map.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&map));
-        const QPoint start = map.pos();
-        QSignalSpy keyboard(&map, &MapView::onSendBlockKeyboardEvent);
-        const auto drag = [&map] {
-            QTest::mousePress(&map, Qt::LeftButton, {}, QPoint(10, 10));
-            QMouseEvent move(QEvent::MouseMove, QPointF(60, 40), map.mapToGlobal(QPoint(60, 40)),
-                             Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
-            QApplication::sendEvent(&map, &move);
-            QTest::mouseRelease(&map, Qt::LeftButton, {}, QPoint(60, 40));
-        };
-        drag();
-        QCOMPARE(map.pos(), start);
-        QVERIFY(keyboard.isEmpty());
-        map.setLayoutMode(3);
-        drag();
-        QCOMPARE(map.pos(), start + QPoint(50, 30));
-        QCOMPARE(keyboard.count(), 2); // blocked while dragging, then free again
-        QVERIFY(keyboard.at(0).at(0).toBool() && !keyboard.at(1).at(0).toBool());
-    }
-
     // ---- The page's encryption ----
 
     void pageIsKeptEncryptedAndComesBackWhole() {

@@ -6,7 +6,6 @@
 
 #include <QCoreApplication>
 #include <QLabel>
-#include <QMouseEvent>
 #include <QUrl>
 #include <QWebEnginePage>
 #include <QWebEngineSettings>
@@ -172,8 +171,6 @@ void MapView::onClearData() {
     PlayerInterface::gpsList.clear();
     m_points.clear();
     m_mapLoaded = false;
-    m_dragging = false;
-    setAttribute(Qt::WA_TransparentForMouseEvents, false);
     emit onSendBlockKeyboardEvent(false);
 }
 
@@ -200,33 +197,4 @@ void MapView::resizeUi() {
 void MapView::resizeEvent(QResizeEvent* event) {
     TavWidget::resizeEvent(event);
     resizeUi();
-}
-
-void MapView::mousePressEvent(QMouseEvent* event) {
-    if (m_layoutMode != 3 || event->button() != Qt::LeftButton) {
-        TavWidget::mousePressEvent(event);
-        return;
-    }
-    emit onSendBlockKeyboardEvent(true);
-    m_dragging = true;
-    m_pressOffset = event->globalPos() - pos();
-    event->accept();
-}
-
-void MapView::mouseMoveEvent(QMouseEvent* event) {
-    if (!m_dragging) {
-        TavWidget::mouseMoveEvent(event);
-        return;
-    }
-    move(event->globalPos() - m_pressOffset);
-    event->accept();
-}
-
-void MapView::mouseReleaseEvent(QMouseEvent* event) {
-    logDebug("MapView::mouseReleaseEvent");
-    if (m_dragging) {
-        m_dragging = false;
-        emit onSendBlockKeyboardEvent(false);
-    }
-    TavWidget::mouseReleaseEvent(event);
 }

@@ -34,9 +34,6 @@ public:
     // The frame and the inner area take the panel's width and the view's height; the web
     // view fills the inner area.
     void resizeUi();
-    // The main window's layout mode; in mode 3 the map stands as a window of its own and can
-    // be dragged.
-    void setLayoutMode(int mode) { m_layoutMode = mode; }
     // The page failed to decrypt: the map area says so instead.
     bool pageFailed() const { return m_pageFailed; }
     QWebEngineView* webView() const { return m_web; }
@@ -57,9 +54,6 @@ public slots:
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
-    void mousePressEvent(QMouseEvent* event) override;
-    void mouseMoveEvent(QMouseEvent* event) override;
-    void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
     struct MapPoint {
@@ -83,8 +77,5 @@ private:
     bool m_pageFailed = false;
     bool m_usedDefault = false;
     bool m_noFix[2] = {false, false};
-    bool m_dragging = false;
-    QPoint m_pressOffset;
     int m_panelWidth = 0;
-    int m_layoutMode = 0;
 };
