@@ -165,16 +165,14 @@ def files_in(folder, pattern, count):
     return wait_until(lambda: found() if len(found()) >= count else None, 20, 0.3) or found()
 
 
-def hold_still(name, log_file):
+def hold_still(window, name, log_file):
     """Pauses playback with Space, as a user would before saving or printing, and gives the
     file of the recording that stays on screen, as the status log names it."""
     def log():
         with open(log_file, encoding="utf-8", errors="replace") as f:
             return f.read()
     pauses = log().count("PlayerInterface::onPause")
-    window = xdotool("search", "--onlyvisible", "--name", "^ZENTA DASHCAM$")
-    if window:
-        xdotool("windowfocus", "--sync", window[0])
+    xdotool("windowfocus", "--sync", window[2])
     xdotool("key", "--clearmodifiers", "space")
     paused = wait_until(lambda: log().count("PlayerInterface::onPause") > pauses, 10)
     check(bool(paused), "%s: Space pauses playback" % name)
@@ -309,15 +307,16 @@ def scene_rects(window_x, window_y):
 
 
 def main_window():
-    """The screen position of the program's main window: its one large top-level window."""
+    """The screen position and id of the program's main window: its one large top-level
+    window (its name is in _NET_WM_NAME only, which xdotool's search does not read)."""
     listing = subprocess.run(["xwininfo", "-root", "-children"], capture_output=True,
                              text=True).stdout
-    pattern = re.compile(r'^\s*0x[0-9a-f]+ "ZENTA DASHCAM": \("tavoric" [^)]*\)\s+'
+    pattern = re.compile(r'^\s*(0x[0-9a-f]+) "ZENTA DASHCAM": \("tavoric" [^)]*\)\s+'
                          r'(\d+)x(\d+)\+(-?\d+)\+(-?\d+)')
     for line in listing.splitlines():
         match = pattern.match(line)
-        if match and int(match.group(1)) > 600 and int(match.group(2)) > 400:
-            return int(match.group(3)), int(match.group(4))
+        if match and int(match.group(2)) > 600 and int(match.group(3)) > 400:
+            return int(match.group(4)), int(match.group(5)), match.group(1)
     return None
 
 
@@ -341,7 +340,7 @@ def run_case(name, arguments):
         check(window is not None, "the main window is shown after the agreement")
         if window is None:
             return
-        front, rears = scene_rects(*window)
+        front, rears = scene_rects(window[0], window[1])
         scenes = list(zip(("front scene", "rear scene 1", "rear scene 2"), [front] + rears))
 
         # The first recording starts by itself; wait for its moving picture (the waiting
@@ -362,7 +361,7 @@ def run_case(name, arguments):
             check(second.differs(first, rect) > 0.002, "%s: the %s moves (%.2f %% in 1.2 s)" %
                   (name, scene, 100 * second.differs(first, rect)))
         check_chart_and_map(window, name)
-        playing = hold_still(name, log_file)
+        playing = hold_still(window, name, log_file)
         sx, sy, _, _ = entry("MainWindow", "shortcutTable")
         column = (window[0] + sx, window[1] + sy)
         check_save(column, name, home, playing)

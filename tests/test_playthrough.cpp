@@ -10,6 +10,7 @@
 #include "SDCardView.h"
 #include "SaveAsView.h"
 #include "SubPlayerWindow.h"
+#include "SubSceneBackWidget.h"
 #include "TavFileListItem.h"
 #include "TavPlayButton.h"
 #include "TavPlaySlider.h"
@@ -50,12 +51,16 @@ QRgb screenColour(QWidget* widget) {
 }
 // The side of the frame number (white, top third in front, bottom third at the rear): +1 left,
 // -1 right, 0 none.
-int frameNumberSide(const QImage& screen, const QRect& area, bool front) {
+// Pixels in hidden (a frame over the scene) do not count.
+int frameNumberSide(const QImage& screen, const QRect& area, bool front,
+                    const QRect& hidden = QRect()) {
     const int top = front ? area.top() : area.bottom() - area.height() / 3;
     int left = 0;
     int right = 0;
     for (int y = top; y <= top + area.height() / 3; ++y) {
         for (int x = area.left(); x <= area.right(); ++x) {
+            if (hidden.contains(x, y))
+                continue;
             const QRgb c = screen.pixel(x, y);
             if (qRed(c) > 200 && qGreen(c) > 200 && qBlue(c) > 200)
                 ++(x < area.center().x() ? left : right);
@@ -67,9 +72,10 @@ int frameNumberSide(const QImage& screen, const QRect& area, bool front) {
         return -1;
     return 0;
 }
-int frameNumberSide(QWidget* widget, bool front) {
+int frameNumberSide(QWidget* widget, bool front, const QRect& hidden = QRect()) {
     const QImage screen = QGuiApplication::primaryScreen()->grabWindow(0).toImage();
-    return frameNumberSide(screen, QRect(widget->mapToGlobal(QPoint(0, 0)), widget->size()), front);
+    return frameNumberSide(screen, QRect(widget->mapToGlobal(QPoint(0, 0)), widget->size()), front,
+                           hidden);
 }
 bool isRed(QRgb c) {
     return qRed(c) > 150 && qGreen(c) < 100 && qBlue(c) < 100;
@@ -107,6 +113,16 @@ class TestPlaythrough : public QObject {
     PlayScreenWindow* m_main = nullptr; // the main scene and the two rear scenes
     SubPlayerWindow* m_rear1 = nullptr;
     SubPlayerWindow* m_rear2 = nullptr;
+
+    // The side of the main scene's frame number, as far as the rear scenes' frame leaves
+    // the scene in view.
+    int mainSide() const {
+        auto* frame = m_window->findChild<SubSceneBackWidget*>();
+        const QRect hidden = frame->isVisible()
+                                 ? QRect(frame->mapToGlobal(QPoint(0, 0)), frame->size())
+                                 : QRect();
+        return frameNumberSide(m_main, true, hidden);
+    }
 
     void waitForPicture() {
         QTRY_VERIFY_WITH_TIMEOUT(PlayerInterface::playStatus == PlayerInterface::PlayRunning &&
@@ -156,6 +172,14 @@ private slots:
 
         QTRY_VERIFY(m_rear2->isVisible());
         waitForEachCameraInItsScene();
+        // The rear scenes' frame leaves the bottom of the front picture free, where cameras
+        // burn in their date and time.
+        auto* frame = m_window->findChild<SubSceneBackWidget*>();
+        const QRect scene(m_main->mapToGlobal(QPoint(0, 0)), m_main->size());
+        const int picture = std::min(scene.height(), scene.width() * 9 / 16);
+        const QRect stamp(scene.left(), scene.center().y() + picture / 2 - picture / 8,
+                          scene.width(), picture / 8);
+        QVERIFY(!QRect(frame->mapToGlobal(QPoint(0, 0)), frame->size()).intersects(stamp));
         // Held still from here on, so that the five-second recording is still the one on
         // screen however long the checks take.
         m_window->player()->onPause();
@@ -178,16 +202,20 @@ private slots:
     }
 
     void flipMirrorsOneScene() {
-        // Paused, so every player has to come back to the paused picture after a flip.
+        // Paused, so every player has to come back to the paused picture after a flip. The
+        // rear scenes are moved down, as a user drags them, off the corner where the front
+        // camera's number shows mirrored.
         QCOMPARE(PlayerInterface::playStatus, int(PlayerInterface::PlayPaused));
+        auto* frame = m_window->findChild<SubSceneBackWidget*>();
+        frame->move(frame->x(), frame->parentWidget()->height() - frame->height() - 220);
         QTRY_COMPARE_WITH_TIMEOUT(frameNumberSide(m_rear1, false), 1, 3000);
-        QCOMPARE(frameNumberSide(m_main, true), 1);
+        QTRY_COMPARE_WITH_TIMEOUT(mainSide(), 1, 3000);
 
         QTest::mouseClick(m_rear1->findChild<QPushButton*>("bFlip"), Qt::LeftButton);
         QTRY_COMPARE_WITH_TIMEOUT(frameNumberSide(m_rear1, false), -1, 5000);
         QVERIFY(isGreen(screenColour(m_rear1)));
         QVERIFY(m_rear1->findChild<QPushButton*>("bFlip")->isChecked());
-        QCOMPARE(frameNumberSide(m_main, true), 1);
+        QCOMPARE(mainSide(), 1);
         QCOMPARE(frameNumberSide(m_rear2, false), 1);
         QCOMPARE(PlayerInterface::playStatus, int(PlayerInterface::PlayPaused));
         // Still paused: the mirrored player comes to rest after drawing its first picture.
@@ -208,7 +236,7 @@ private slots:
         QVERIFY(panelFlip &&
                 panelFlip->parentWidget() == m_window->findChild<QWidget*>("ControlView"));
         QTest::mouseClick(panelFlip, Qt::LeftButton);
-        QTRY_COMPARE_WITH_TIMEOUT(frameNumberSide(m_main, true), -1, 5000);
+        QTRY_COMPARE_WITH_TIMEOUT(mainSide(), -1, 5000);
         QVERIFY(isRed(screenColour(m_main)));
 
         // Capture saves every camera's picture as shown, mirrored or not.
@@ -221,6 +249,9 @@ private slots:
             dialog->findChild<QPushButton*>("bSave")->click();
         });
         QTest::mouseClick(m_window->findChild<QPushButton*>("bCapture"), Qt::LeftButton);
+        // Nothing written over the pictures the snapshots were taken of.
+        QCOMPARE(mainSide(), -1);
+        QCOMPARE(frameNumberSide(m_rear2, false), 1);
         QCOMPARE(messages.size(), 1);
         QVERIFY2(messages.at(0).startsWith("Complete to Save Snapshot!"),
                  qPrintable(messages.at(0)));
@@ -361,7 +392,7 @@ private slots:
         waitForPicture();
         QCOMPARE(VLCComponent::channelCount, 2);
         // The cameras mirrored in the last recording start this one as recorded.
-        QTRY_COMPARE_WITH_TIMEOUT(frameNumberSide(m_main, true), 1, 3000);
+        QTRY_COMPARE_WITH_TIMEOUT(mainSide(), 1, 3000);
         QTRY_COMPARE_WITH_TIMEOUT(frameNumberSide(m_rear1, false), 1, 3000);
         QVERIFY(!m_rear1->findChild<QPushButton*>("bFlip")->isChecked());
         m_window->player()->onPause(); // the four-second recording stays the playing row
