@@ -819,6 +819,7 @@ void MainWindow::removeDataFolderLeftovers() {
 void MainWindow::connectTelemetryViews() {
     if (enabled("MapView")) {
         connect(this, &MainWindow::onSendMapShow, m_map, &MapView::onMapShow);
+        connect(m_card, &CardSession::onSendSpeedUnit, m_map, &MapView::onSetSpeedUnit);
         connect(m_player, &PlayerInterface::onSetTextData, m_map, &MapView::onLoadMap);
         connect(m_player, &PlayerInterface::onTimeout_500ms, m_map, &MapView::onUpdateMap);
         connect(m_player, &PlayerInterface::onSendClear, m_map, &MapView::onClearData);

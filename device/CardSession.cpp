@@ -30,6 +30,7 @@ void CardSession::openSettingDialog(QWidget* parent) {
     connect(&dialog, &SettingView::onSendFormatStarting, this, &CardSession::onFormatStarting);
     connect(&dialog, &SettingView::onSendFormatFinished, this, &CardSession::onFormatFinished);
     connect(&dialog, &SettingView::onSendChangeLanguage, this, &CardSession::onSendChangeLanguage);
+    connect(&dialog, &SettingView::onSendSpeedUnit, this, &CardSession::onSendSpeedUnit);
     connect(&dialog, &SettingView::onSendShowUpdate, this, &CardSession::onSendShowUpdate);
     dialog.exec();
 }

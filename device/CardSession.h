@@ -31,6 +31,7 @@ signals:
     // From the settings dialog's own pages: the language was switched; a newer version is
     // out and the user wants it.
     void onSendChangeLanguage();
+    void onSendSpeedUnit(int unit);
     void onSendShowUpdate(const QString& version);
 
 private slots:

@@ -107,6 +107,7 @@ void SettingOptProgram::onOptionChanged(const QString& name, int value) {
     } else if (name == QLatin1String(kSpeedUnit)) {
         AppGlobals::speedUnit = value;
         settings.setValue(kSpeedUnitKey, value);
+        emit onSendSpeedUnit(value);
     } else if (name == QLatin1String(kKeep)) {
         settings.setValue(kKeepSettingsKey, value != 0);
     }

@@ -34,6 +34,8 @@ public:
 signals:
     // The language was switched; the views show their texts anew.
     void onSendChangeLanguage();
+    // The speed unit was switched (1 km/h, 2 miles per hour).
+    void onSendSpeedUnit(int unit);
     // The user asks for the program reset (the dialog asks and does it).
     void onSendProgramReset();
 

@@ -246,6 +246,7 @@ void SettingView::buildViewerPages() {
             &SettingView::onSetProgramFormat);
     connect(m_program, &SettingOptProgram::onSendChangeLanguage, this,
             &SettingView::onChangeLanguage);
+    connect(m_program, &SettingOptProgram::onSendSpeedUnit, this, &SettingView::onSendSpeedUnit);
     connect(m_update, &SettingOptUpdate::onSendShowUpdate, this, &SettingView::onSendShowUpdate);
 }
 

@@ -70,6 +70,7 @@ signals:
     void onSendFormatFinished();
     // The program page switched the language.
     void onSendChangeLanguage();
+    void onSendSpeedUnit(int unit);
     // The update page found a newer version.
     void onSendShowUpdate(const QString& version);
 

@@ -4,6 +4,7 @@
 // messages, questions and folder dialog: answers, and the program's dark look.
 #include "AboutView.h"
 #include "AppGlobals.h"
+#include "CardSession.h"
 #include "ChartView.h"
 #include "Frameless.h"
 #include "LanguageView.h"
@@ -611,6 +612,9 @@ private slots:
         ROUTE(back, SubSceneBackWidget::onSendBlockKeyboardEvent, self,
               MainWindow::onBlockKeyboardEvent);
         ROUTE(player, PlayerInterface::onSendClear, back, SubSceneBackWidget::ClearPosition);
+        // The settings dialog's speed unit reaches the map at once.
+        ROUTE(m_window->findChild<CardSession*>(), CardSession::onSendSpeedUnit, map,
+              MapView::onSetSpeedUnit);
 #undef ROUTE
         QVERIFY2(missing.isEmpty(), qPrintable(missing.join('\n')));
     }

@@ -605,9 +605,12 @@ private slots:
         SettingView view;
         SettingOptProgram* page = view.programPage();
         QSignalSpy language(&view, &SettingView::onSendChangeLanguage);
+        QSignalSpy unit(&view, &SettingView::onSendSpeedUnit);
 
         rowButton(page->option("Speed Unit"), "Mi/h")->click();
         QCOMPARE(AppGlobals::speedUnit, 2);
+        QCOMPARE(unit.count(), 1); // for the map, which shows it at once
+        QCOMPARE(unit.first().first().toInt(), 2);
         QCOMPARE(AppGlobals::settings->value("speedUnit").toInt(), 2);
         rowButton(page->option("Speed Unit"), "Km/h")->click();
         QCOMPARE(AppGlobals::speedUnit, 1);

@@ -240,7 +240,35 @@ private slots:
         const QStringList sent = take(scripts);
         QVERIFY(!sent.isEmpty());
         QCOMPARE(sent.first(), QStringLiteral("initMap()"));
-        QVERIFY(sent.size() == 1 || sent.at(1).startsWith("setRoute(["));
+        QCOMPARE(sent.at(1), QStringLiteral("setSpeedUnit(false)"));
+        QVERIFY(sent.size() == 2 || sent.at(2).startsWith("setRoute(["));
+    }
+
+    // Miles per hour chosen while a recording shows: the car's label changes at once.
+    void mapShowsSpeedsInTheChosenUnit() {
+        PlayerInterface::gpsList = {{0, 37.5f, 127.0f, 80.0f, 0, 0},
+                                    {1, 37.5f, 127.001f, 80.0f, 0, 0}};
+        MapView map;
+        map.resize(310, 400);
+        map.show();
+        waitForPage(map);
+        setPlaying(0, 1000);
+        map.onLoadMap();
+        const auto label = [&map] {
+            QString text;
+            map.webView()->page()->runJavaScript(
+                "car ? car.getElement().querySelector('.speed').textContent : ''",
+                [&text](const QVariant& value) { text = value.toString(); });
+            (void)QTest::qWaitFor([&text] { return !text.isEmpty(); }, 5000);
+            return text;
+        };
+        QTRY_COMPARE(label(), QStringLiteral("80 km/h"));
+        AppGlobals::speedUnit = 2;
+        map.onSetSpeedUnit(2);
+        QTRY_COMPARE(label(), QStringLiteral("50 mph"));
+        AppGlobals::speedUnit = 1;
+        map.onSetSpeedUnit(1);
+        QTRY_COMPARE(label(), QStringLiteral("80 km/h"));
     }
 
     void mapFollowsTheRecordingFromTheDefaultPosition() {

@@ -1,5 +1,6 @@
 #include "MapView.h"
 
+#include "AppGlobals.h"
 #include "MapPageCipher.h"
 #include "PlayerInterface.h"
 #include "StatusLog.h"
@@ -71,8 +72,12 @@ void MapView::run(const QString& script) {
 
 void MapView::setLoadMap(bool ok) {
     logDebug("MapView::setLoadMap");
+    // The page keeps its unit for every new map; it is told once it is up.
+    const bool firstLoad = ok && !m_pageLoaded;
     m_pageLoaded = m_pageLoaded || ok;
     run(QStringLiteral("initMap()"));
+    if (firstLoad)
+        run(unitScript());
     if (ok)
         logInfo("[MapView]: Set map data is complete.");
     else
@@ -144,7 +149,24 @@ QImage MapView::currentPicture() const {
     return m_web->grab().toImage();
 }
 
+QString MapView::unitScript() {
+    return AppGlobals::speedUnit == 2 ? QStringLiteral("setSpeedUnit(true)")
+                                      : QStringLiteral("setSpeedUnit(false)");
+}
+
+void MapView::onSetSpeedUnit(int) {
+    logDebug("MapView::onSetSpeedUnit");
+    if (!m_pageLoaded)
+        return;
+    run(unitScript());
+    // The car's label in the new unit at once, also while playback is paused.
+    if (!m_lastPosition.isEmpty())
+        run(m_lastPosition);
+}
+
 void MapView::showPosition(double latitude, double longitude, double speed, bool first) {
+    m_lastPosition = QStringLiteral("setLatLng(%1, %2, %3, false)")
+                         .arg(coordinate(latitude), coordinate(longitude), speedText(speed));
     if (m_mapLoaded)
         run(QStringLiteral("setLatLng(%1, %2, %3, %4)")
                 .arg(coordinate(latitude), coordinate(longitude), speedText(speed),
@@ -170,6 +192,7 @@ void MapView::onClearData() {
     logDebug("MapView::onClearData");
     PlayerInterface::gpsList.clear();
     m_points.clear();
+    m_lastPosition.clear();
     m_mapLoaded = false;
     emit onSendBlockKeyboardEvent(false);
 }

@@ -51,6 +51,8 @@ public slots:
     void onUpdateMap();
     void onClearData();
     void onMapShow(bool show);
+    // Speeds and the scale in this unit (2 miles per hour, else km/h) from now on.
+    void onSetSpeedUnit(int unit);
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
@@ -66,6 +68,8 @@ private:
     // "setLatLng(...)" for a position, and the shared display texts set to it.
     void showPosition(double latitude, double longitude, double speed, bool first);
     QString routeScript() const;
+    // "setSpeedUnit(...)" for the program's speed unit.
+    static QString unitScript();
 
     QWidget* m_frame;
     QWidget* m_area;
@@ -77,5 +81,7 @@ private:
     bool m_pageFailed = false;
     bool m_usedDefault = false;
     bool m_noFix[2] = {false, false};
+    // The car's last position, shown again in another unit.
+    QString m_lastPosition;
     int m_panelWidth = 0;
 };

@@ -90,6 +90,18 @@ async function run(browser, online) {
   check(Math.abs(angle - 90) < 2, name + ": the arrow points the way it went, east (" + angle + ")");
   check(state.zoom === 16, name + ": a move keeps the zoom");
 
+  // Miles per hour: the car's speed and the scale change unit at once, and stay so on a new
+  // map.
+  await page.evaluate(() => { setSpeedUnit(true); setLatLng(37.50000, 127.00100, 20, false); });
+  state = await mapState(page);
+  check(state.car.speed === "12 mph" && /\d+ (ft|mi)/.test(state.scale),
+        name + ": in miles per hour (" + state.car.speed + ", " + state.scale + ")");
+  await page.evaluate(() => { initMap(); setLatLng(37.50000, 127.00000, 95, true); });
+  state = await mapState(page);
+  check(state.car.speed === "59 mph" && /\d+ (ft|mi)/.test(state.scale),
+        name + ": a new map keeps the unit (" + state.car.speed + ", " + state.scale + ")");
+  await page.evaluate(() => setSpeedUnit(false));
+
   // A new recording starts on a new map.
   await page.evaluate(() => initMap());
   state = await mapState(page);
