@@ -90,7 +90,12 @@ void SettingOptProgram::showFolders() {
 
 void SettingOptProgram::chooseFolder(bool video) {
     logDebug("SettingOptProgram::chooseFolder");
-    const QString folder = TavPrompt::openFolder(this, tr("Choose a folder"));
+    const QString current = video ? AppGlobals::videoPath : AppGlobals::snapshotPath;
+    const QString folder = TavPrompt::openFolder(
+        this, tr("Choose a folder"),
+        current.isEmpty() ? (video ? AppGlobals::defaultVideoFolder()
+                                   : AppGlobals::defaultSnapshotFolder())
+                          : current);
     if (folder.isEmpty())
         return;
     (video ? AppGlobals::videoPath : AppGlobals::snapshotPath) = QDir::fromNativeSeparators(folder);

@@ -279,7 +279,7 @@ private slots:
         QCOMPARE(stop.at(0).at(0).toInt(), 3);
         QVERIFY(m_messages.isEmpty());
 
-        TavPrompt::openFolderHook = [&] { return folder; };
+        TavPrompt::openFolderHook = [&](const QString&) { return folder; };
         list.onDeleteAllFileAtList();
         list.onOpenFolderDlg();
         TavPrompt::openFolderHook = nullptr;

@@ -615,12 +615,24 @@ private slots:
         rowButton(page->option("Speed Unit"), "Km/h")->click();
         QCOMPARE(AppGlobals::speedUnit, 1);
 
-        TavPrompt::openFolderHook = [this] { return m_dir.filePath("shots"); };
+        // The chooser opens where the folder is now: the default one (when it exists, else
+        // the home folder) before any is chosen.
+        QStringList starts;
+        const QString before = QDir(AppGlobals::defaultSnapshotFolder()).exists()
+                                   ? AppGlobals::defaultSnapshotFolder()
+                                   : QDir::homePath();
+        TavPrompt::openFolderHook = [this, &starts](const QString& start) {
+            starts << start;
+            return m_dir.filePath("shots");
+        };
         page->snapshotRow()->button()->click();
         QCOMPARE(AppGlobals::snapshotPath, m_dir.filePath("shots"));
+        QVERIFY(QDir().mkpath(m_dir.filePath("shots")));
+        page->snapshotRow()->button()->click();
+        QCOMPARE(starts, (QStringList{before, m_dir.filePath("shots")}));
         QCOMPARE(page->snapshotRow()->hint()->text(),
                  QDir::toNativeSeparators(m_dir.filePath("shots")));
-        TavPrompt::openFolderHook = [] { return QString(); }; // cancelled
+        TavPrompt::openFolderHook = [](const QString&) { return QString(); }; // cancelled
         page->videoRow()->button()->click();
         QVERIFY(AppGlobals::videoPath.isEmpty());
         QCOMPARE(page->videoRow()->hint()->text(),

@@ -5,6 +5,7 @@
 #include <QAbstractButton>
 #include <QCoreApplication>
 #include <QDialogButtonBox>
+#include <QDir>
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QStyle>
@@ -13,7 +14,7 @@ std::function<void(const QString&)> TavPrompt::informHook;
 std::function<bool(const QString&)> TavPrompt::askHook;
 std::function<bool(const QString&, const QString&)> TavPrompt::askTitledHook;
 std::function<QStringList()> TavPrompt::openFilesHook;
-std::function<QString()> TavPrompt::openFolderHook;
+std::function<QString(const QString&)> TavPrompt::openFolderHook;
 std::function<QString(const QString&)> TavPrompt::saveFileHook;
 
 namespace {
@@ -141,10 +142,13 @@ QStringList TavPrompt::openFiles(QWidget* parent, const QString& caption, const 
     return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles() : QStringList();
 }
 
-QString TavPrompt::openFolder(QWidget* parent, const QString& caption) {
+QString TavPrompt::openFolder(QWidget* parent, const QString& caption, const QString& start) {
+    // Not the program's working folder, which means nothing to the user: the folder chosen
+    // before, or else the user's home.
+    const QString folder = !start.isEmpty() && QDir(start).exists() ? start : QDir::homePath();
     if (openFolderHook)
-        return openFolderHook();
-    QFileDialog dialog(parent, caption);
+        return openFolderHook(folder);
+    QFileDialog dialog(parent, caption, folder);
     dialog.setFileMode(QFileDialog::Directory);
     dialog.setOption(QFileDialog::ShowDirsOnly);
     dress(dialog);

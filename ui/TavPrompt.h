@@ -21,8 +21,10 @@ public:
     // Several existing files; empty when cancelled.
     static QStringList openFiles(QWidget* parent, const QString& caption, const QString& folder,
                                  const QString& filter);
-    // One folder; empty when cancelled.
-    static QString openFolder(QWidget* parent, const QString& caption);
+    // One folder, the chooser opening at start (the folder chosen before) when it exists;
+    // empty when cancelled.
+    static QString openFolder(QWidget* parent, const QString& caption,
+                              const QString& start = QString());
     // A file to write, starting at `path`; the system asks before replacing one. Empty when
     // cancelled.
     static QString saveFile(QWidget* parent, const QString& caption, const QString& path,
@@ -38,6 +40,7 @@ public:
     // Answers questions with their titles; askHook answers when this one is not set.
     static std::function<bool(const QString& title, const QString& text)> askTitledHook;
     static std::function<QStringList()> openFilesHook;
-    static std::function<QString()> openFolderHook;
+    // Given the folder the chooser would open at.
+    static std::function<QString(const QString& start)> openFolderHook;
     static std::function<QString(const QString& path)> saveFileHook;
 };
