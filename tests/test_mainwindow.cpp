@@ -401,6 +401,26 @@ private slots:
         TavPrompt::inform(m_parent, QStringLiteral("Item is exist!"));
         QCOMPARE(text, QStringLiteral("Item is exist!"));
         QVERIFY2(light >= 0 && light < 80, qPrintable(QString::number(light)));
+
+        // Over a small dialog, with a long path: no wider than the dialog, below its title.
+        QDialog dialog(m_window);
+        dialog.setGeometry(300, 200, 360, 220);
+        dialog.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+        QRect box;
+        whenModal([&](QWidget* shown) {
+            QTRY_VERIFY(shown->isVisible());
+            box = shown->frameGeometry();
+            text = qobject_cast<QMessageBox*>(shown)->text();
+        });
+        const QString path = "/home/someone/Pictures/ZENTA/20240612_081502_INF_1_1_941276.jpg";
+        TavPrompt::inform(&dialog, "Complete to Save Snapshot!\n" + path);
+        const QRect frame = dialog.frameGeometry();
+        QVERIFY2(box.width() <= frame.width() && box.top() >= frame.top() + 40 &&
+                     box.left() >= frame.left() - 1,
+                 qPrintable(QStringLiteral("box %1,%2 %3x%4").arg(box.x()).arg(box.y())
+                                .arg(box.width()).arg(box.height())));
+        QCOMPARE(text.remove('\n'), "Complete to Save Snapshot!" + path);
     }
 
     // Yes is the only yes: No, and Escape, are not; No is the default.

@@ -7,8 +7,11 @@
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QFileDialog>
+#include <QFontMetrics>
 #include <QMessageBox>
 #include <QStyle>
+
+#include <algorithm>
 
 std::function<void(const QString&)> TavPrompt::informHook;
 std::function<bool(const QString&)> TavPrompt::askHook;
@@ -95,6 +98,47 @@ void dress(QWidget& dialog) {
     }
 }
 
+// The text with its lines broken so that none is wider than width: at spaces, else after a
+// path's separators (a long path has no spaces).
+QString wrapped(const QString& text, const QFontMetrics& metrics, int width) {
+    QStringList lines;
+    for (const QString& line : text.split('\n')) {
+        QString rest = line;
+        while (metrics.horizontalAdvance(rest) > width) {
+            int cut = -1;
+            for (int i = 1; i < rest.size(); ++i) {
+                if (metrics.horizontalAdvance(rest.left(i)) > width)
+                    break;
+                const QChar c = rest.at(i - 1);
+                if (c == ' ' || c == '/' || c == '\\' || c == '_' || c == '-')
+                    cut = i;
+            }
+            if (cut <= 0)
+                break;
+            lines << rest.left(cut).trimmed();
+            rest = rest.mid(cut);
+        }
+        lines << rest;
+    }
+    return lines.join('\n');
+}
+
+// A box that a dialog opens stays within that dialog's width and below its title strip, so
+// that the user still sees which dialog asks; over the main window it is centred as usual.
+void place(QMessageBox& box, QWidget* parent) {
+    QWidget* window = parent != nullptr ? parent->window() : nullptr;
+    if (qobject_cast<QDialog*>(window) == nullptr || !window->isVisible())
+        return;
+    const QRect frame = window->frameGeometry();
+    constexpr int kTitleStrip = 40;
+    constexpr int kMargins = 80; // the box's own margins around its text
+    const QString text = box.text();
+    box.setText(wrapped(text, QFontMetrics(box.font()), std::max(160, frame.width() - kMargins)));
+    box.adjustSize();
+    const QSize size = box.sizeHint();
+    box.move(frame.center().x() - size.width() / 2, frame.top() + kTitleStrip);
+}
+
 } // namespace
 
 QString TavPrompt::styleSheet() {
@@ -111,6 +155,7 @@ void TavPrompt::inform(QWidget* parent, const QString& text) {
     QMessageBox box(QMessageBox::NoIcon, QString(), text, QMessageBox::Ok, parent);
     box.setObjectName(QStringLiteral("tavMessage"));
     dress(box);
+    place(box, parent);
     box.exec();
 }
 
@@ -128,6 +173,7 @@ bool TavPrompt::ask(QWidget* parent, const QString& title, const QString& text) 
     box.setObjectName(QStringLiteral("tavQuestion"));
     box.setDefaultButton(QMessageBox::No);
     dress(box);
+    place(box, parent);
     return box.exec() == QMessageBox::Yes;
 }
 
