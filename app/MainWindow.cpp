@@ -222,6 +222,9 @@ void MainWindow::setupUi() {
     m_chart = new ChartView(m_control->chartArea());
     m_chart->setGeometry(m_control->chartArea()->rect());
     m_control->chartArea()->installEventFilter(this);
+    // The type pop-up closes on a click anywhere else, the scenes and panels that keep their
+    // clicks to themselves included.
+    qApp->installEventFilter(this);
 
     m_player = new PlayerInterface(this);
     m_player->setMainScreen(m_playScreen->scene());
@@ -654,12 +657,6 @@ void MainWindow::openPaths(const QStringList& paths) {
         m_fileList->onSetFirstFile();
 }
 
-void MainWindow::mousePressEvent(QMouseEvent* event) {
-    // A click anywhere else closes the type pop-up.
-    emit onSendHideTypeList();
-    QMainWindow::mousePressEvent(event);
-}
-
 void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
     if (!m_blockEvent && event->mimeData()->hasUrls())
         event->acceptProposedAction();
@@ -837,6 +834,13 @@ void MainWindow::connectTelemetryViews() {
 }
 
 bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::MouseButtonPress && m_typeList->isListShown()) {
+        // The face of the filter opens and closes the pop-up itself.
+        auto* widget = qobject_cast<QWidget*>(watched);
+        if (widget != nullptr && widget != m_typeList && !m_typeList->isAncestorOf(widget) &&
+            widget != m_fileCombo && !m_fileCombo->isAncestorOf(widget))
+            emit onSendHideTypeList();
+    }
     // The chart keeps the size of the panel's place for it.
     if (watched == m_control->chartArea() && event->type() == QEvent::Resize)
         m_chart->setGeometry(m_control->chartArea()->rect());

@@ -11,10 +11,12 @@
 #include "SaveAsView.h"
 #include "SubPlayerWindow.h"
 #include "SubSceneBackWidget.h"
+#include "TavFileComboBox.h"
 #include "TavFileListItem.h"
 #include "TavPlayButton.h"
 #include "TavPlaySlider.h"
 #include "TavPrompt.h"
+#include "TavTypeList.h"
 #include "TopBar.h"
 #include "VLCComponent.h"
 
@@ -183,6 +185,15 @@ private slots:
         // Held still from here on, so that the five-second recording is still the one on
         // screen however long the checks take.
         m_window->player()->onPause();
+        QCOMPARE(PlayerInterface::playStatus, int(PlayerInterface::PlayPaused));
+    }
+
+    void typePopUpClosesOnAClickOnTheVideo() {
+        auto* popup = m_window->findChild<TavTypeList*>();
+        QTest::mouseClick(m_window->findChild<TavFileComboBox*>(), Qt::LeftButton);
+        QTRY_VERIFY(popup->isVisible());
+        QTest::mouseClick(m_main->scene(), Qt::LeftButton, {}, m_main->scene()->rect().center());
+        QTRY_VERIFY(!popup->isVisible());
         QCOMPARE(PlayerInterface::playStatus, int(PlayerInterface::PlayPaused));
     }
 
