@@ -116,11 +116,13 @@ void FileListLoader::append(RecordingRecord record) {
     // One row's length is read at once; one reading gives a one-file recording's cameras too.
     const RecordingName::Length length = RecordingName::readLength(record.filePath);
     record.durationText = length.text;
+    record.problem = length.problem;
     if (!record.hasChannelFiles())
         record.cameraCount = length.videoCount;
     TavFileListItem::records.append(record);
     m_list.insertRow(record.row);
     fillRow(record.row, record);
+    m_list.markProblem(record.row);
     m_list.rebuildVisibleRows();
 }
 

@@ -3,7 +3,6 @@
 #include "RecordingName.h"
 
 #include <QElapsedTimer>
-#include <QFileInfo>
 
 LengthReader::LengthReader(const QStringList& paths, int offset, int batch,
                            std::shared_ptr<std::atomic<bool>> cancel)
@@ -18,25 +17,25 @@ void LengthReader::run() {
     sinceChunk.start();
     QStringList chunk;
     QVector<int> videoCounts;
+    QVector<int> problems;
     int first = 0;
     for (int i = 0; i < m_paths.size(); ++i) {
         if (m_cancel->load())
             return;
-        // An empty file (a copy that never finished) has no length to read.
-        const QString& path = m_paths.at(i);
-        const RecordingName::Length length =
-            QFileInfo(path).size() > 0 ? RecordingName::readLength(path) : RecordingName::Length();
+        const RecordingName::Length length = RecordingName::readLength(m_paths.at(i));
         chunk << length.text;
         videoCounts << length.videoCount;
+        problems << length.problem;
         if (sinceChunk.elapsed() >= kChunkIntervalMs) {
-            emit lengthsRead(m_batch, m_offset + first, chunk, videoCounts);
+            emit lengthsRead(m_batch, m_offset + first, chunk, videoCounts, problems);
             first = i + 1;
             chunk.clear();
             videoCounts.clear();
+            problems.clear();
             sinceChunk.restart();
         }
     }
     if (!chunk.isEmpty())
-        emit lengthsRead(m_batch, m_offset + first, chunk, videoCounts);
+        emit lengthsRead(m_batch, m_offset + first, chunk, videoCounts, problems);
     emit finished(m_batch);
 }

@@ -25,10 +25,10 @@ public:
     void run() override;
 
 signals:
-    // texts[i] and videoCounts[i] are the length and the video tracks of the recording at
-    // index first + i of the batch.
+    // texts[i], videoCounts[i] and problems[i] are the length, the video tracks and the
+    // RecordingName::Problem of the recording at index first + i of the batch.
     void lengthsRead(int batch, int first, const QStringList& texts,
-                     const QVector<int>& videoCounts);
+                     const QVector<int>& videoCounts, const QVector<int>& problems);
     void finished(int batch);
 
 private:

@@ -46,11 +46,11 @@ void LengthReading::start(const QStringList& paths) {
 }
 
 void LengthReading::onRead(int batch, int first, const QStringList& texts,
-                           const QVector<int>& videoCounts) {
+                           const QVector<int>& videoCounts, const QVector<int>& problems) {
     if (batch != m_batch)
         return;
     m_done += texts.size();
-    emit lengthsRead(first, texts, videoCounts);
+    emit lengthsRead(first, texts, videoCounts, problems);
 }
 
 void LengthReading::onReaderFinished(int batch) {

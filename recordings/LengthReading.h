@@ -31,13 +31,15 @@ public:
     const QString& pathAt(int index) const { return m_paths.at(index); }
 
 signals:
-    // texts[i] and videoCounts[i] are the length and the video tracks of the batch's
-    // recording first + i.
-    void lengthsRead(int first, const QStringList& texts, const QVector<int>& videoCounts);
+    // texts[i], videoCounts[i] and problems[i] are the length, the video tracks and the
+    // RecordingName::Problem of the batch's recording first + i.
+    void lengthsRead(int first, const QStringList& texts, const QVector<int>& videoCounts,
+                     const QVector<int>& problems);
     void finished(qint64 elapsedMs);
 
 private:
-    void onRead(int batch, int first, const QStringList& texts, const QVector<int>& videoCounts);
+    void onRead(int batch, int first, const QStringList& texts, const QVector<int>& videoCounts,
+                const QVector<int>& problems);
     void onReaderFinished(int batch);
 
     QThreadPool m_pool;

@@ -7,6 +7,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <QStringList>
@@ -173,17 +174,64 @@ QString RecordingName::sortKey(const QString& path, const QString& displayName) 
     return displayName + QLatin1Char(' ') + name;
 }
 
+namespace {
+
+// Whether a file starts the way a recording's container does (an MP4 or MOV box, an AVI's
+// RIFF header, an MPEG-TS packet): one that does and still cannot be opened is damaged.
+bool startsLikeARecording(const QString& path) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return false;
+    const QByteArray head = file.read(12);
+    if (head.size() < 8)
+        return false;
+    static const char* const boxes[] = {"ftyp", "moov", "mdat", "free", "skip", "wide", "pnot"};
+    for (const char* box : boxes) {
+        if (head.mid(4, 4) == box)
+            return true;
+    }
+    return head.startsWith("RIFF") || head.at(0) == 0x47;
+}
+
+} // namespace
+
+QString RecordingName::problemText(int problem) {
+    switch (problem) {
+    case EmptyFile:
+        return QCoreApplication::translate("RecordingName", "The file is empty.");
+    case NotAVideo:
+        return QCoreApplication::translate("RecordingName", "The file is not a video recording.");
+    case Damaged:
+        return QCoreApplication::translate(
+            "RecordingName", "The recording is damaged or was cut off (for example by a power "
+                             "loss) and cannot be opened.");
+    case NoVideo:
+        return QCoreApplication::translate("RecordingName", "The file holds no picture.");
+    default:
+        return QString();
+    }
+}
+
 RecordingName::Length RecordingName::readLength(const QString& path) {
+    Length length;
+    if (QFileInfo(path).size() == 0) {
+        length.problem = EmptyFile;
+        return length;
+    }
     alignas(8) unsigned char info[KDXData::kInfoSize];
     KDXData reader(info);
     const int opened = reader.KDX_Open(path);
-    // 2: the file opened but its header gave no information, so there is no length to show.
-    if (opened < 0 || opened == 2)
-        return {};
+    // 2: the file opened but its header gave no information (a recording cut off before its
+    // index, which holds its streams): no length to show, and nothing to play.
+    if (opened < 0 || opened == 2) {
+        length.problem = startsLikeARecording(path) ? Damaged : NotAVideo;
+        return length;
+    }
     const int seconds = qMax(0, reader.KDX_GetTotalRange() / 1000);
-    Length length;
     length.videoCount = qMax(0, reader.KDX_GetVideoTotalNum());
     reader.KDX_Close();
+    if (length.videoCount == 0)
+        length.problem = NoVideo;
     length.text = QStringLiteral("%1:%2")
                       .arg(seconds / 60, 2, 10, QLatin1Char('0'))
                       .arg(seconds % 60, 2, 10, QLatin1Char('0'));

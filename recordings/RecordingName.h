@@ -78,10 +78,21 @@ public:
     static QString sortKey(const QString& path, const QString& displayName);
 
     // What a file's header tells before it is played.
+    // Why a listed file cannot be played.
+    enum Problem {
+        NoProblem = 0,
+        EmptyFile,  // nothing in it (a copy that never finished)
+        NotAVideo,  // not a video recording at all (a text file named .mp4, say)
+        Damaged,    // a recording's container that cannot be opened: cut off, or broken
+        NoVideo,    // a container without any picture in it
+    };
     struct Length {
         QString text;       // MM:SS, empty when the file cannot be read
         int videoCount = 0; // video tracks; 0 when the file cannot be read
+        int problem = NoProblem;
     };
+    // What the user is told about a problem; empty for none.
+    static QString problemText(int problem);
     // Length and video tracks of a recording file, from one reading of its header.
     static Length readLength(const QString& path);
 

@@ -19,6 +19,8 @@ struct RecordingRecord {
     int suffixCount = 1;
     int type = 0;
     QString durationText; // MM:SS once the length has been read
+    // A RecordingName::Problem once the file was found unplayable when its length was read.
+    int problem = 0;
 
     // The files of the recording, front camera first: its MP4 channel files in one folder,
     // or the one file of a recording that keeps its cameras in one file (an MP4 with a video

@@ -15,6 +15,7 @@
 #include "VLCComponent.h"
 
 #include <QAction>
+#include <QColor>
 #include <QDragEnterEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -24,6 +25,8 @@
 #include <QScrollBar>
 #include <QTimer>
 #include <QUrl>
+
+#include <algorithm>
 
 QVector<RecordingRecord> TavFileListItem::records;
 QVector<int> TavFileListItem::visibleRows;
@@ -253,11 +256,48 @@ int TavFileListItem::previousRow() const {
     return -1;
 }
 
-void TavFileListItem::playItem(int index) {
+void TavFileListItem::markProblem(int row) {
+    if (row < 0 || row >= records.size())
+        return;
+    const RecordingRecord& record = records.at(row);
+    if (record.problem == RecordingName::NoProblem)
+        return;
+    const QString reason = RecordingName::problemText(record.problem);
+    for (int column = 0; column < ColumnCount; ++column) {
+        if (QTableWidgetItem* cell = item(row, column)) {
+            cell->setForeground(QColor(0xe0, 0x6c, 0x6c));
+            if (column != NameColumn || record.thumbPath.isEmpty())
+                cell->setToolTip(reason);
+        }
+    }
+    if (QTableWidgetItem* length = item(row, LengthColumn))
+        length->setText(QStringLiteral("--:--"));
+}
+
+bool TavFileListItem::isPlayable(int index) {
+    RecordingRecord& record = records[index];
+    // A row played before its length came: its file is read now.
+    if (record.durationText.isEmpty() && record.problem == RecordingName::NoProblem) {
+        const RecordingName::Length length = RecordingName::readLength(record.filePath);
+        record.problem = length.problem;
+        markProblem(index);
+    }
+    return record.problem == RecordingName::NoProblem;
+}
+
+void TavFileListItem::playItem(int index, bool tell) {
     logInfo("[TavFileListItem]: set connect play Item with other widget...");
     if (index < 0 || index >= records.size() || index >= rowCount()) {
         logError("[TavFileListItem]: no record at row %d.", index);
         Q_ASSERT_X(false, "TavFileListItem::playItem", "row out of range");
+        return;
+    }
+    if (!isPlayable(index)) {
+        logWarning("[TavFileListItem]: %s cannot be played (%d).",
+                   records.at(index).filePath.toLocal8Bit().constData(), records.at(index).problem);
+        if (tell)
+            TavPrompt::inform(this, tr("This recording cannot be played.") + '\n' +
+                                        RecordingName::problemText(records.at(index).problem));
         return;
     }
     currentIndex = index;
@@ -277,7 +317,13 @@ void TavFileListItem::playItem(int index) {
 
 void TavFileListItem::onForwardItemSet() {
     logInfo("[TavFileListItem]: change select item to forward.");
-    const int next = nextRow();
+    // Playback moves on by itself past rows that cannot be played, without a word.
+    int next = nextRow();
+    while (next >= 0 && !isPlayable(next)) {
+        const auto later = std::find_if(visibleRows.cbegin(), visibleRows.cend(),
+                                        [next](int row) { return row > next; });
+        next = later == visibleRows.cend() ? -1 : *later;
+    }
     if (next < 0) {
         // Playback ran to the end of the last shown row by itself: the player simply stays
         // stopped at the logo. A message box here would greet a user who walked away.
@@ -542,7 +588,7 @@ int TavFileListItem::recordIndexOf(const QString& path, int hint) const {
 }
 
 void TavFileListItem::onLengthsRead(int first, const QStringList& texts,
-                                    const QVector<int>& videoCounts) {
+                                    const QVector<int>& videoCounts, const QVector<int>& problems) {
     for (int k = 0; k < texts.size() && first + k < m_lengths->total(); ++k) {
         const int index = recordIndexOf(m_lengths->pathAt(first + k), first + k);
         if (index < 0)
@@ -551,6 +597,8 @@ void TavFileListItem::onLengthsRead(int first, const QStringList& texts,
         if (QTableWidgetItem* length = item(index, LengthColumn))
             length->setText(texts.at(k));
         setVideoCount(index, videoCounts.value(k));
+        records[index].problem = problems.value(k);
+        markProblem(index);
     }
     m_progress->setValue(m_lengths->done());
     emit onSendReadProgress(m_lengths->done(), m_lengths->total());
@@ -579,6 +627,7 @@ void TavFileListItem::onFinishReadFileTime() {
         if (QTableWidgetItem* length = item(i, LengthColumn)) {
             length->setText(records.at(i).durationText);
             length->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+            markProblem(i);
         }
 }
 

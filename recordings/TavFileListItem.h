@@ -139,6 +139,9 @@ private:
     void resetList();
     void resetPressState();
     // The tool tip of a row whose thumbnail is at path.
+    // A row whose file cannot be played says so: its texts dimmed red, the reason as its
+    // tool tip and "--:--" for its length.
+    void markProblem(int row);
     static QString thumbnailToolTip(const QString& path);
     bool rowPassesMask(int row) const;
     void rebuildVisibleRows();
@@ -148,13 +151,18 @@ private:
     static bool isCurrentRecording(const RecordingRecord& record);
     int nextRow() const;
     int previousRow() const;
-    void playItem(int index);
+    // Plays the row; one whose file cannot be played is not handed on, and the user is told
+    // why when tell is set.
+    void playItem(int index, bool tell = true);
+    // Whether the row's file can be played, read now when its length has not come yet.
+    bool isPlayable(int index);
     // A row chosen by double click or Enter: stops what plays, then plays the row.
     void chooseRow(int row);
     void stopItemInfoThread();
     void startLengthReader();
     void cancelLengthReader();
-    void onLengthsRead(int first, const QStringList& texts, const QVector<int>& videoCounts);
+    void onLengthsRead(int first, const QStringList& texts, const QVector<int>& videoCounts,
+                       const QVector<int>& problems);
     // A one-file recording's cameras are its video tracks, known with its length.
     void setVideoCount(int index, int videoCount);
     void onLengthsFinished(qint64 elapsedMs);

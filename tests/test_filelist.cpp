@@ -56,12 +56,22 @@ class TestFileList : public QObject {
     QStringList m_questions;
     bool m_answer = false;
 
-    // An empty file under a recording name, in a folder of its own where need be.
+    // A copy of the real recording under a recording name, in a folder of its own where
+    // need be.
     QString touch(const QString& name, const QString& folder = QStringLiteral("names")) {
         QDir().mkpath(m_dir.filePath(folder));
         const QString path = m_dir.filePath(folder + '/' + name);
+        QFile::copy(m_recording, path);
+        return path;
+    }
+
+    // A file under a recording name holding these bytes (none: an empty file).
+    QString broken(const QString& name, const QByteArray& bytes = QByteArray()) {
+        QDir().mkpath(m_dir.filePath("broken"));
+        const QString path = m_dir.filePath("broken/" + name);
         QFile file(path);
         file.open(QIODevice::WriteOnly);
+        file.write(bytes);
         return path;
     }
 
@@ -626,7 +636,7 @@ private slots:
                                   .arg(i % 60, 2, 10, QChar('0'));
             QVERIFY(QFile::copy(m_recording, paths.last()));
         }
-        paths << touch("20240301_110000_INF_1.mp4"); // no header: no length
+        paths << broken("20240301_110000_INF_1.mp4"); // empty: no length
         TavFileListItem list;
         connect(&list, &TavFileListItem::onSendFinishReadFileTime, &list,
                 &TavFileListItem::onFinishReadFileTime);
@@ -638,7 +648,9 @@ private slots:
         QCOMPARE(progress.last().at(1).toInt(), 71);
         for (int row = 0; row < 70; ++row)
             QCOMPARE(list.item(row, TavFileListItem::LengthColumn)->text(), QString("00:02"));
-        QCOMPARE(list.item(70, TavFileListItem::LengthColumn)->text(), QString());
+        QCOMPARE(list.item(70, TavFileListItem::LengthColumn)->text(), QString("--:--"));
+        QCOMPARE(list.item(70, TavFileListItem::LengthColumn)->toolTip(),
+                 QString("The file is empty."));
         QCOMPARE(TavFileListItem::records.at(69).durationText, QString("00:02"));
     }
 
@@ -646,8 +658,7 @@ private slots:
         TavFileListItem list;
         list.resize(300, 300);
         list.show();
-        const QString broken = touch("20240101_060000_INF_1.mp4");
-        list.loadPaths({broken, m_recording});
+        list.loadPaths({broken("20240101_060000_INF_1.mp4"), m_recording});
         QTRY_VERIFY_WITH_TIMEOUT(!TavFileListItem::records.at(1).thumbPath.isEmpty(), 20000);
         const QString thumb = TavFileListItem::records.at(1).thumbPath;
         QVERIFY(thumb.startsWith(AppGlobals::dataFolder + "/Thumbs/"));
@@ -656,7 +667,58 @@ private slots:
                  QString("<img src=\"%1\">").arg(thumb));
         // The broken file was asked for first and simply has none.
         QVERIFY(TavFileListItem::records.at(0).thumbPath.isEmpty());
-        QVERIFY(list.item(0, TavFileListItem::NameColumn)->toolTip().isEmpty());
+        QCOMPARE(list.item(0, TavFileListItem::NameColumn)->toolTip(),
+                 QString("The file is empty."));
+    }
+
+    // Files that cannot be played are marked, say why when played, and are passed over when
+    // playback moves on by itself.
+    void unplayableFilesAreMarkedAndSayWhy() {
+        QFile source(m_recording);
+        QVERIFY(source.open(QIODevice::ReadOnly));
+        const QByteArray recording = source.readAll();
+        const QStringList paths{
+            broken("20240501_100000_INF_1.mp4"),
+            broken("20240501_100100_INF_1.mp4", "a note, not a recording\n"),
+            broken("20240501_100200_INF_1.mp4", recording.left(recording.size() / 2)),
+            touch("20240501_100300_INF_1.mp4", "broken")};
+        TavFileListItem list;
+        list.resize(300, 300);
+        list.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&list));
+        QSignalSpy chosen(&list, &TavFileListItem::doubleClickedItem);
+        connect(&list, &TavFileListItem::onSendFinishReadFileTime, &list,
+                &TavFileListItem::onFinishReadFileTime);
+        QSignalSpy finished(&list, &TavFileListItem::onSendFinishReadFileTime);
+        list.loadPaths(paths);
+        // Played before the lengths are read: the file is read then.
+        QTest::mouseDClick(list.viewport(), Qt::LeftButton, {},
+                           list.visualItemRect(list.item(1, 1)).center());
+        QCOMPARE(chosen.count(), 0);
+        QCOMPARE(m_messages, QStringList{"This recording cannot be played.\nThe file is not a "
+                                         "video recording."});
+        QVERIFY(finished.wait(20000));
+        const QStringList reasons{
+            "The file is empty.", "The file is not a video recording.",
+            "The recording is damaged or was cut off (for example by a power loss) and cannot "
+            "be opened."};
+        for (int row = 0; row < 3; ++row) {
+            QCOMPARE(list.item(row, TavFileListItem::LengthColumn)->toolTip(), reasons.at(row));
+            QCOMPARE(list.item(row, TavFileListItem::LengthColumn)->text(), QString("--:--"));
+        }
+        QCOMPARE(list.item(3, TavFileListItem::LengthColumn)->text(), QString("00:02"));
+        m_messages.clear();
+        list.setCurrentCell(2, TavFileListItem::NameColumn);
+        QTest::keyClick(&list, Qt::Key_Return);
+        QCOMPARE(m_messages, QStringList{"This recording cannot be played.\n" + reasons.at(2)});
+        QCOMPARE(chosen.count(), 0);
+        // From before the broken rows, playback moves on to the good one silently.
+        TavFileListItem::currentIndex = -1;
+        m_messages.clear();
+        list.onForwardItemSet();
+        QCOMPARE(chosen.count(), 1);
+        QCOMPARE(PlayerInterface::currentFile, paths.at(3));
+        QVERIFY(m_messages.isEmpty());
     }
 
     void thumbnailWorkerStopsAndCopesWithoutFfmpeg() {

@@ -231,6 +231,25 @@
     </message>
   </context>
   <context>
+    <name>RecordingName</name>
+    <message>
+      <source>The file is empty.</source>
+      <translation>The file is empty.</translation>
+    </message>
+    <message>
+      <source>The file is not a video recording.</source>
+      <translation>The file is not a video recording.</translation>
+    </message>
+    <message>
+      <source>The recording is damaged or was cut off (for example by a power loss) and cannot be opened.</source>
+      <translation>The recording is damaged or was cut off (for example by a power loss) and cannot be opened.</translation>
+    </message>
+    <message>
+      <source>The file holds no picture.</source>
+      <translation>The file holds no picture.</translation>
+    </message>
+  </context>
+  <context>
     <name>ReportPage</name>
     <message>
       <source>FileName: </source>
@@ -1070,6 +1089,10 @@
     <message>
       <source>Open Folder</source>
       <translation>Open Folder</translation>
+    </message>
+    <message>
+      <source>This recording cannot be played.</source>
+      <translation>This recording cannot be played.</translation>
     </message>
   </context>
   <context>

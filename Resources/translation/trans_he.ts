@@ -238,6 +238,25 @@
     </message>
   </context>
   <context>
+    <name>RecordingName</name>
+    <message>
+      <source>The file is empty.</source>
+      <translation>הקובץ ריק.</translation>
+    </message>
+    <message>
+      <source>The file is not a video recording.</source>
+      <translation>הקובץ אינו הקלטת וידאו.</translation>
+    </message>
+    <message>
+      <source>The recording is damaged or was cut off (for example by a power loss) and cannot be opened.</source>
+      <translation>ההקלטה פגומה או נקטעה (למשל בהפסקת חשמל) ולא ניתן לפתוח אותה.</translation>
+    </message>
+    <message>
+      <source>The file holds no picture.</source>
+      <translation>אין תמונה בקובץ.</translation>
+    </message>
+  </context>
+  <context>
     <name>ReportPage</name>
     <message>
       <source>FileName: </source>
@@ -1077,6 +1096,10 @@
     <message>
       <source>Open Folder</source>
       <translation>פתיחת תיקייה</translation>
+    </message>
+    <message>
+      <source>This recording cannot be played.</source>
+      <translation>לא ניתן להפעיל הקלטה זו.</translation>
     </message>
   </context>
   <context>

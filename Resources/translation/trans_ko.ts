@@ -231,6 +231,25 @@
     </message>
   </context>
   <context>
+    <name>RecordingName</name>
+    <message>
+      <source>The file is empty.</source>
+      <translation>파일이 비어 있습니다.</translation>
+    </message>
+    <message>
+      <source>The file is not a video recording.</source>
+      <translation>동영상 녹화 파일이 아닙니다.</translation>
+    </message>
+    <message>
+      <source>The recording is damaged or was cut off (for example by a power loss) and cannot be opened.</source>
+      <translation>녹화 파일이 손상되었거나 (예: 전원 차단으로) 중간에 끊겨 열 수 없습니다.</translation>
+    </message>
+    <message>
+      <source>The file holds no picture.</source>
+      <translation>파일에 영상이 없습니다.</translation>
+    </message>
+  </context>
+  <context>
     <name>ReportPage</name>
     <message>
       <source>FileName: </source>
@@ -1070,6 +1089,10 @@
     <message>
       <source>Open Folder</source>
       <translation>폴더 열기</translation>
+    </message>
+    <message>
+      <source>This recording cannot be played.</source>
+      <translation>이 녹화 영상은 재생할 수 없습니다.</translation>
     </message>
   </context>
   <context>
