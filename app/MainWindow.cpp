@@ -603,25 +603,32 @@ void MainWindow::openPrintDlg() {
         return;
     }
     const bool paused = pauseForDialog();
-    // The report takes the map as it shows: a hidden map is shown first and given a moment
-    // to draw.
-    if (PlayerInterface::gpsPresent && enabled("MapView") && enabled("bMap") &&
-        !m_mapButton->isChecked()) {
-        onRaiseMap();
-        QTimer::singleShot(kMapDrawMs, this, [this, paused] { showPrintDialogs(paused); });
+    if (!PlayerInterface::gpsPresent || !enabled("MapView") || !enabled("bMap")) {
+        showPrintDialogs(paused, QImage());
         return;
     }
-    showPrintDialogs(paused);
+    // The report takes the map drawn for paper. A map hidden behind the list is shown for
+    // that moment (a web view draws only while it shows), and the list comes back after.
+    const bool listShown = !m_mapButton->isChecked();
+    if (listShown)
+        onRaiseMap();
+    m_map->setPaper(true);
+    QTimer::singleShot(kMapDrawMs, this, [this, paused, listShown] {
+        const QImage map = m_map->currentPicture();
+        m_map->setPaper(false);
+        if (listShown)
+            onShowFilelist();
+        showPrintDialogs(paused, map);
+    });
 }
 
-void MainWindow::showPrintDialogs(bool paused) {
+void MainWindow::showPrintDialogs(bool paused, const QImage& map) {
     if (!hasRecording())
         return;
     const QString file = PlayerInterface::currentFile;
     // The model of the card last opened; empty when the recording came from elsewhere.
     ReportScene scene = ReportScene::fromPlayback(ConfigAccess::modelText, AppGlobals::speedUnit);
-    if (PlayerInterface::gpsPresent && enabled("MapView"))
-        scene.mapImage = m_map->currentPicture();
+    scene.mapImage = map;
     PrintChannelSelectView dialog(this);
     dialog.setScene(scene);
     for (int channel = 0;

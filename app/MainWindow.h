@@ -16,6 +16,7 @@ class SubSceneBackWidget;
 class TavFileComboBox;
 class TavFileListItem;
 class TavTypeList;
+class QImage;
 class QPushButton;
 class QStackedWidget;
 class RightSideView;
@@ -133,7 +134,7 @@ private:
     // one paused it, so that it plays on afterwards.
     bool pauseForDialog();
     void resumeAfterDialog(bool paused, const QString& file);
-    void showPrintDialogs(bool paused);
+    void showPrintDialogs(bool paused, const QImage& map);
     void removeDataFolderLeftovers();
     // Connects a row of the wiring only when both ends are built and enabled.
     bool enabled(const char* entry) const;

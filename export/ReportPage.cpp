@@ -2,6 +2,7 @@
 
 #include "ReportScene.h"
 
+#include <QColor>
 #include <QImage>
 #include <QPainter>
 
@@ -37,48 +38,61 @@ void ReportPage::paint(QPainter& painter, const QSize& page, const ReportScene& 
     const int height = page.height();
     const int margin = std::max(8, width * 6 / 100);
     const int contentWidth = width - 2 * margin;
+    const int bottom = height - margin;
     const int gap = std::max(4, height / 100);
+    // Sizes follow the page, so that the sheet reads the same on the screen, in a PDF and on
+    // a printer of any resolution: the text about 10 pt on A4, the title about 18 pt.
+    const int textPixels = std::max(kTextPixels, height / 80);
+    const int titlePixels = std::max(kTitlePixels, height / 45);
+    const int lineStep = std::max(kLineStep, textPixels * 17 / 10);
     painter.save();
     painter.setPen(Qt::black);
 
     QFont title = painter.font();
-    title.setPixelSize(kTitlePixels);
+    title.setPixelSize(titlePixels);
     title.setBold(true);
     painter.setFont(title);
-    const int titleHeight = kTitlePixels * 2;
+    const int titleHeight = titlePixels * 2;
     painter.drawText(QRect(0, margin, width, titleHeight), Qt::AlignHCenter | Qt::AlignTop,
                      tr("Report"));
 
-    // The text block keeps its room at the foot of the page; the pictures share the rest, the
-    // camera's at most about two fifths of the page.
-    const QStringList textLines = lines(scene, memo);
-    const int textHeight = textLines.size() * kLineStep;
+    // The camera's picture across the page; under it the map on the left and the text on the
+    // right, both down to the foot of the page.
     int y = margin + titleHeight + gap;
-    const int pictureRoom = height - margin - textHeight - gap - y;
     const QRect sceneRect =
-        fitted(scene.sceneImage, margin, y, contentWidth, std::min(pictureRoom, height * 2 / 5));
+        fitted(scene.sceneImage, margin, y, contentWidth, height * 2 / 5);
     if (sceneRect.isValid()) {
         painter.drawImage(sceneRect, scene.sceneImage);
-        y = sceneRect.bottom() + 1 + gap;
+        y = sceneRect.bottom() + 1 + 2 * gap;
     }
-    // The map follows the car, which is at its centre: a map taller than wide (the side
-    // panel's) gives the square around the car.
-    QImage map = scene.mapImage;
-    if (map.height() > map.width())
-        map = map.copy(0, (map.height() - map.width()) / 2, map.width(), map.width());
-    const QRect mapRect =
-        fitted(map, margin, y, contentWidth, height - margin - textHeight - gap - y);
-    if (mapRect.isValid()) {
-        painter.drawImage(mapRect, map);
-        y = mapRect.bottom() + 1 + gap;
+    int textLeft = margin;
+    if (!scene.mapImage.isNull() && bottom > y) {
+        // The map follows the car at its centre: the middle of it, in the box's proportions.
+        const QRect box(margin, y, contentWidth / 2, bottom - y);
+        const QImage& map = scene.mapImage;
+        QSize crop = box.size().scaled(map.size(), Qt::KeepAspectRatio);
+        const QRect source((map.width() - crop.width()) / 2, (map.height() - crop.height()) / 2,
+                           crop.width(), crop.height());
+        painter.drawImage(box, map, source);
+        painter.setPen(QColor(0xc8, 0xcc, 0xd4));
+        painter.drawRect(box.adjusted(0, 0, -1, -1));
+        painter.setPen(Qt::black);
+        textLeft = box.right() + 1 + 2 * gap;
     }
+    const int textWidth = margin + contentWidth - textLeft;
 
     QFont body = painter.font();
-    body.setPixelSize(kTextPixels);
+    body.setPixelSize(textPixels);
     body.setBold(false);
     painter.setFont(body);
+    const QStringList textLines = lines(scene, memo);
     for (int i = 0; i < textLines.size(); ++i)
-        painter.drawText(QRect(margin, y + i * kLineStep, contentWidth, kLineStep),
-                         Qt::AlignLeft | Qt::AlignTop, textLines.at(i));
+        painter.drawText(QRect(textLeft, y + i * lineStep, textWidth, lineStep),
+                         Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, textLines.at(i));
+    // Room for notes by hand under the memo, ruled to the foot of the page.
+    painter.setPen(QColor(0xc8, 0xcc, 0xd4));
+    for (int ruled = y + (textLines.size() + 1) * lineStep; ruled + lineStep <= bottom;
+         ruled += lineStep)
+        painter.drawLine(textLeft, ruled, textLeft + textWidth, ruled);
     painter.restore();
 }

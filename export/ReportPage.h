@@ -9,8 +9,8 @@ class QPainter;
 struct ReportScene;
 
 // The layout of the one-page report, painted the same way on the preview and on the
-// printer: the title, the camera's picture and the map across the page, then the text
-// lines under the map.
+// printer: the title, the camera's picture across the page, under it the map beside the text
+// lines and the ruled room for a memo.
 class ReportPage {
     Q_DECLARE_TR_FUNCTIONS(ReportPage)
 
@@ -18,6 +18,7 @@ public:
     // A4 at screen resolution, the page the preview shows.
     static constexpr int kPreviewWidth = 794;
     static constexpr int kPreviewHeight = 1123;
+    // The smallest sizes; on a page they grow with its height.
     static constexpr int kTitlePixels = 12;
     static constexpr int kTextPixels = 8;
     static constexpr int kLineStep = 20;

@@ -12,6 +12,7 @@
 #include <QTimer>
 #include <QWidget>
 
+#include <algorithm>
 #include <cstring>
 
 QString PlayerInterface::currentFile;
@@ -276,6 +277,9 @@ void PlayerInterface::onPause() {
     stopTicks();
     m_engine->Pause();
     playStatus = PlayPaused;
+    // The time of the picture that stays, for the panel and whatever reports on it.
+    currentTime = std::max(0.0, m_engine->GetCurrentPos());
+    emit onUpdateTimeNow();
 }
 
 void PlayerInterface::userStop(int reason) {

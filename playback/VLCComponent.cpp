@@ -34,6 +34,7 @@ VLCComponent::VLCComponent(QObject* parent)
             Qt::QueuedConnection);
     connect(this, &VLCComponent::stoppedReached, this, &VLCComponent::finishStop,
             Qt::QueuedConnection);
+    connect(m_gate, &ChannelGate::released, this, [this] { m_clock.run(m_rate); });
     connect(m_gate, &ChannelGate::released, this, &VLCComponent::afterFlip);
     connect(m_join, &PausedJoin::allResting, this, &VLCComponent::afterFlip);
     m_syncTimer->setInterval(kSyncIntervalMs);
@@ -190,6 +191,7 @@ int VLCComponent::Play() {
     m_rate = 1.0f;
     m_firstPictureSeen = false;
     m_stopDelivered = false;
+    m_clock.anchor(0);
     const int used = usedChannels();
     m_gate->arm((1 << used) - 1);
     for (int i = 0; i < used; ++i) {
@@ -205,6 +207,7 @@ void VLCComponent::Pause() {
     logDebug("VLCComponent::Pause");
     m_syncTimer->stop();
     m_gate->hold();
+    m_clock.hold();
     // Not libvlc's toggle: players the gate still holds are paused already and stay so.
     for (int i = 0; i < usedChannels(); ++i)
         libvlc_media_player_set_pause(player(i), 1);
@@ -218,7 +221,7 @@ void VLCComponent::Resume() {
     if (m_realignOnResume || m_join->busy()) {
         m_join->cancel();
         m_realignOnResume = false;
-        seekTogether(std::max<libvlc_time_t>(libvlc_media_player_get_time(player(0)), 0));
+        seekTogether(int64_t(std::max(0.0, GetCurrentPos())));
     } else {
         m_gate->release(usedChannels());
     }
@@ -232,6 +235,7 @@ void VLCComponent::Stop(int reason) {
     m_syncTimer->stop();
     m_join->cancel();
     m_realignOnResume = false;
+    m_clock.invalidate();
     if (playerState == Paused)
         Resume();
     m_gate->hold();
@@ -258,6 +262,7 @@ bool VLCComponent::playersRun() const {
 
 void VLCComponent::holdPlayers() {
     m_gate->hold();
+    m_clock.hold();
     for (int i = 0; i < usedChannels(); ++i)
         libvlc_media_player_set_pause(player(i), 1);
 }
@@ -272,6 +277,7 @@ void VLCComponent::seekTogether(int64_t ms) {
     else
         m_gate->hold();
     m_gate->arm(seekableChannels());
+    m_clock.anchor(double(ms));
     // Precise seeks: a fast one lands each file on its own key frame.
     for (int i = 0; i < usedChannels(); ++i)
         VlcCompat::setTime(player(i), ms, false);
@@ -320,6 +326,8 @@ void VLCComponent::NextFrame() {
     logDebug("VLCComponent::NextFrame");
     for (int i = 0; i < usedChannels(); ++i)
         libvlc_media_player_next_frame(player(i));
+    // libvlc's time follows the steps; a resume moves every channel to it.
+    m_clock.invalidate();
     // The players step to the same frame, but their clocks come out of frame steps a frame
     // or two apart once they run again (measured): the resume moves them together first.
     m_realignOnResume = true;
@@ -333,8 +341,7 @@ void VLCComponent::SetSpeed(double rate) {
     // One second back, so that nothing is missed at the new speed. Every channel moves, so
     // that they set off together at the new speed (a rate taken by each player at its own
     // moment would leave them apart).
-    const double t = double(libvlc_media_player_get_time(player(0)));
-    const double target = (t - 0.5 < 0) ? 0 : t - 1000;
+    const double target = std::max(0.0, GetCurrentPos() - 1000);
     seekTogether(int64_t(target));
 }
 
@@ -353,7 +360,7 @@ void VLCComponent::SetMute(bool mute) {
 
 double VLCComponent::GetCurrentPos() {
     logDebug("VLCComponent::GetCurrentPos");
-    return double(libvlc_media_player_get_time(player(0)));
+    return m_clock.time(double(libvlc_media_player_get_time(player(0))));
 }
 
 double VLCComponent::GetTotalTime() {
@@ -391,7 +398,8 @@ void VLCComponent::SetFlip(int channel, bool mirrored) {
         return;
     const bool running = playerState == Playing;
     const int used = usedChannels();
-    const int64_t start = std::max<libvlc_time_t>(libvlc_media_player_get_time(player(0)), 0);
+    // The time of the picture the others show (libvlc's own trails it).
+    const int64_t start = int64_t(std::max(0.0, GetCurrentPos()));
     const uintptr_t window =
         videoWidgets[channel] != nullptr ? videoWidgets[channel]->winId() : uintptr_t(0);
     // The others wait at the front camera's time while the new player fills its buffer;

@@ -2,6 +2,7 @@
 
 #include "ChannelPlayers.h"
 #include "DriftEstimator.h"
+#include "PlayClock.h"
 #include <QObject>
 
 #include <QSize>
@@ -160,6 +161,8 @@ private:
     // the new one runs.
     bool m_flipped = false;
     DriftEstimator m_drift[kMaxChannels];
+    // The time of the picture on the screen (GetCurrentPos).
+    PlayClock m_clock;
     float m_rate = 1.0f;
     std::atomic<bool> m_firstPictureSeen{false};
     std::atomic<bool> m_stopDelivered{false};

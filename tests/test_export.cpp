@@ -25,6 +25,7 @@
 #include <QPlainTextEdit>
 #include <QPrintDialog>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
@@ -96,6 +97,17 @@ QImage filled(const QColor& colour, const QSize& size) {
 
 QString pdfText(const QString& pdf) {
     return QString::fromUtf8(output("pdftotext", {"-layout", pdf, "-"}));
+}
+
+// The height, in points, of the first word of a PDF's text that is `word`; 0 when none is.
+double pdfWordHeight(const QString& pdf, const QString& word) {
+    const QString boxes = QString::fromUtf8(output("pdftotext", {"-bbox", pdf, "-"}));
+    const QRegularExpression found(
+        QStringLiteral("<word xMin=\"[\\d.]+\" yMin=\"([\\d.]+)\" xMax=\"[\\d.]+\" "
+                       "yMax=\"([\\d.]+)\">%1</word>")
+            .arg(QRegularExpression::escape(word)));
+    const QRegularExpressionMatch match = found.match(boxes);
+    return match.hasMatch() ? match.captured(2).toDouble() - match.captured(1).toDouble() : 0;
 }
 
 QImage pdfPage(const QString& pdf, const QString& folder) {
@@ -533,13 +545,19 @@ private slots:
 
         const QImage page = pdfPage(pdf, out.path());
         QVERIFY(!page.isNull());
+        // The camera's picture across the page, the map under it on the left, beside the
+        // text, down to the foot of the page; the text readable (about 10 pt, not 6).
         const QList<int> green = rowsOf(page, page.width() / 2, qRgb(0, 255, 0));
-        const QList<int> blue = rowsOf(page, page.width() / 2, qRgb(0, 0, 255));
+        const QList<int> blue = rowsOf(page, page.width() / 4, qRgb(0, 0, 255));
         const QList<int> red = rowsOf(page, page.width() / 2, qRgb(255, 0, 0));
         QVERIFY(red.isEmpty()); // camera 1 was not chosen
         QVERIFY2(green.size() > page.height() / 6, qPrintable(QString::number(green.size())));
-        QVERIFY2(blue.size() > page.height() / 6, qPrintable(QString::number(blue.size())));
+        QVERIFY2(blue.size() > page.height() / 4, qPrintable(QString::number(blue.size())));
         QVERIFY(green.last() < blue.first());
+        QVERIFY2(blue.last() > page.height() * 85 / 100, qPrintable(QString::number(blue.last())));
+        QVERIFY(rowsOf(page, page.width() * 3 / 4, qRgb(0, 0, 255)).isEmpty());
+        const double textHeight = pdfWordHeight(pdf, "FileName:");
+        QVERIFY2(textHeight >= 9, qPrintable(QString::number(textHeight)));
         // The picture spans the page's width within its margins.
         const QRgb middle = page.pixel(page.width() / 10 + 2, green.at(green.size() / 2));
         QVERIFY(qGreen(middle) > 200 && qRed(middle) < 60);
@@ -568,7 +586,7 @@ private slots:
         preview.setMapData(filled(QColor(0, 0, 255), QSize(400, 300)));
         const QImage shot = preview.grab().toImage();
         const QList<int> green = rowsOf(shot, 200, qRgb(0, 255, 0));
-        const QList<int> blue = rowsOf(shot, 200, qRgb(0, 0, 255));
+        const QList<int> blue = rowsOf(shot, 100, qRgb(0, 0, 255));
         QVERIFY(!green.isEmpty() && !blue.isEmpty());
         QVERIFY(green.last() < blue.first());
         QCOMPARE(QColor(shot.pixel(200, 12)), QColor(Qt::white));

@@ -148,6 +148,12 @@ def window_named(title, what, timeout=20):
     return int(x), int(y), found[0]
 
 
+def entry_rect(origin, view, name):
+    """A child placed by a view's description, on the screen."""
+    x, y, w, h = entry(view, name)
+    return origin[0] + x, origin[1] + y, w, h
+
+
 def click(x, y):
     xdotool("mousemove", str(x), str(y), "click", "1")
 
@@ -242,6 +248,8 @@ def check_service_views(column, name):
 def check_report(window, name, home, playing):
     """Print: the camera asked for, the report saved as PDF where the user typed, with the
     recording's values, its picture and the map on the page."""
+    # The list in the side panel, as it was before the map was looked at.
+    click_entry(window, "MainWindow", "bFilelist")
     sx, sy, _, _ = entry("MainWindow", "shortcutTable")
     click_entry((window[0] + sx, window[1] + sy), "TavShortcutTable", "bPrint")
     choice = window_named("Print", "%s: print asks for the camera" % name)
@@ -289,6 +297,11 @@ def check_report(window, name, home, playing):
               "%s: the page shows the camera's picture and the map with the route and the car"
               % name)
     click_entry(report, "PrintView", "bCancel")
+    # The side panel shows the list again, as it did before Print (the map is shown only
+    # while its picture is taken).
+    def list_back():
+        return Screen().share(entry_rect(window, "MainWindow", "bFilelist"), CAR, 2) > 0.5
+    check(wait_until(list_back, 10, 0.3), "%s: after Print the side panel shows the list" % name)
 
 
 def scene_rects(window_x, window_y):

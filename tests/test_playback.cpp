@@ -302,6 +302,24 @@ private slots:
         m_player->onControlSpeed(2);
     }
 
+    // Paused, the time told is that of the picture that stays, within a frame or so (libvlc's
+    // own trails it by up to 400 ms); the panel and the report read it.
+    void pausedTimeIsThePictures() {
+        open(kBars);
+        QString seen;
+        for (int k = 0; k < 6; ++k) {
+            QTest::qWait(300 + 137 * k);
+            m_player->onPause();
+            QTest::qWait(300);
+            const double picture = framesOnScreen().at(0) * 1000.0 / 30;
+            const double told = PlayerInterface::currentTime;
+            seen += QString(" %1/%2").arg(picture).arg(told);
+            QVERIFY2(std::abs(told - picture) <= 50, qPrintable(seen));
+            QCOMPARE(engine()->GetCurrentPos(), told);
+            m_player->onPlay();
+        }
+    }
+
     // A stop while starting leaves nothing for a next recording with fewer cameras.
     void stopWhileStartingThenFewerCameras() {
         QByteArray path = kSplit.toUtf8();

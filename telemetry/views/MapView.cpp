@@ -143,6 +143,11 @@ void MapView::onUpdateMap() {
     showPosition(point.latitude, point.longitude, point.speed, false);
 }
 
+void MapView::setPaper(bool paper) {
+    if (m_pageLoaded)
+        run(paper ? QStringLiteral("setPaper(true)") : QStringLiteral("setPaper(false)"));
+}
+
 QImage MapView::currentPicture() const {
     if (m_web == nullptr || !m_mapLoaded || !m_web->isVisible())
         return QImage();

@@ -39,6 +39,8 @@ public:
     QWebEngineView* webView() const { return m_web; }
     // The map as it shows on the screen now; a null image while no map is shown.
     QImage currentPicture() const;
+    // The map drawn for paper (light, without its controls), or as the program shows it.
+    void setPaper(bool paper);
 
 signals:
     void onSendBlockKeyboardEvent(bool flag);
