@@ -5,6 +5,7 @@
 #include "CardSession.h"
 #include "ChartView.h"
 #include "ConfigAccess.h"
+#include "EngineState.h"
 #include "LanguageView.h"
 #include "LeftSideView.h"
 #include "MapView.h"
@@ -28,7 +29,6 @@
 #include "TavTypeList.h"
 #include "TavWidget.h"
 #include "TopBar.h"
-#include "VLCComponent.h"
 #include "WaitPlayLogo.h"
 
 #include <QDir>
@@ -587,10 +587,10 @@ void MainWindow::onGetImage() {
     const bool paused = pauseForDialog();
     SaveAsView dialog(this);
     for (int channel = 0;
-         channel < PlayerInterface::playChannelCount && channel < VLCComponent::kMaxChannels;
+         channel < PlayerInterface::playChannelCount && channel < EngineState::kMaxChannels;
          ++channel)
         dialog.setImage(channel, m_player->getScreenImage(channel));
-    dialog.setPosition(m_player->engine()->GetPosition());
+    dialog.setPosition(m_player->position());
     dialog.move(geometry().center() - dialog.rect().center());
     dialog.exec();
     resumeAfterDialog(paused, file);
@@ -632,7 +632,7 @@ void MainWindow::showPrintDialogs(bool paused, const QImage& map) {
     PrintChannelSelectView dialog(this);
     dialog.setScene(scene);
     for (int channel = 0;
-         channel < PlayerInterface::playChannelCount && channel < VLCComponent::kMaxChannels;
+         channel < PlayerInterface::playChannelCount && channel < EngineState::kMaxChannels;
          ++channel)
         dialog.setImage(channel, m_player->getScreenImage(channel));
     dialog.move(geometry().center() - dialog.rect().center());

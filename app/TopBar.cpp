@@ -1,6 +1,6 @@
 #include "TopBar.h"
 
-#include "PlayerInterface.h"
+#include "PlaybackState.h"
 #include "StatusLog.h"
 
 #include <QFileInfo>
@@ -46,7 +46,7 @@ void TopBar::onChangeAlwaysTopUi(int state) {
 
 void TopBar::setFileName() {
     logDebug("TopBar::setFileName");
-    m_fileName->setText(QFileInfo(PlayerInterface::currentFile).fileName());
+    m_fileName->setText(QFileInfo(PlaybackState::currentFile).fileName());
 }
 
 void TopBar::unsetFileName() {

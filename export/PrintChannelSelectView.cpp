@@ -1,6 +1,6 @@
 #include "PrintChannelSelectView.h"
 
-#include "PlayerInterface.h"
+#include "PlaybackState.h"
 #include "PrintView.h"
 #include "StatusLog.h"
 #include "TavPrompt.h"
@@ -16,7 +16,7 @@ PrintChannelSelectView::PrintChannelSelectView(QWidget* parent)
     TavWidget* view = form();
     view->addChild(new QLabel(view), "context", TavWidget::Style::Label);
     m_channels =
-        std::make_unique<ChannelChoices>(view, view, PlayerInterface::playChannelCount,
+        std::make_unique<ChannelChoices>(view, view, PlaybackState::playChannelCount,
                                          [](QWidget* parent) { return new QRadioButton(parent); });
     // The front camera is the usual choice.
     if (m_channels->count() > 0)

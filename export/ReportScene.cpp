@@ -1,6 +1,6 @@
 #include "ReportScene.h"
 
-#include "PlayerInterface.h"
+#include "PlaybackState.h"
 
 #include <QDateTime>
 #include <QFileInfo>
@@ -13,9 +13,9 @@ namespace {
 // The sample of a telemetry list that belongs to the current time, as the chart and the map
 // pick it; -1 when there is none.
 template <typename Point> int currentSample(const QList<Point>& points) {
-    if (points.isEmpty() || PlayerInterface::totalTime <= 0)
+    if (points.isEmpty() || PlaybackState::totalTime <= 0)
         return -1;
-    const int i = int(points.size() * PlayerInterface::currentTime / PlayerInterface::totalTime);
+    const int i = int(points.size() * PlaybackState::currentTime / PlaybackState::totalTime);
     return qBound(0, i, int(points.size()) - 1);
 }
 
@@ -23,25 +23,25 @@ template <typename Point> int currentSample(const QList<Point>& points) {
 
 ReportScene ReportScene::fromPlayback(const QString& modelName, int speedUnit) {
     ReportScene scene;
-    scene.fileName = QFileInfo(PlayerInterface::currentFile).fileName();
+    scene.fileName = QFileInfo(PlaybackState::currentFile).fileName();
     // The play time is in milliseconds.
-    scene.date = dateText(scene.fileName, PlayerInterface::currentTime / 1000.0);
+    scene.date = dateText(scene.fileName, PlaybackState::currentTime / 1000.0);
     scene.modelName = modelName;
     scene.speedUnit = speedUnit;
-    if (!PlayerInterface::telemetryPresent)
+    if (!PlaybackState::telemetryPresent)
         return scene;
-    const int g = currentSample(PlayerInterface::gSensorList);
+    const int g = currentSample(PlaybackState::gSensorList);
     if (g >= 0) {
-        const GSensorPoint& point = PlayerInterface::gSensorList.at(g);
+        const GSensorPoint& point = PlaybackState::gSensorList.at(g);
         scene.gSensorX = QString::number(point.x, 'f', 3);
         scene.gSensorY = QString::number(point.y, 'f', 3);
         scene.gSensorZ = QString::number(point.z, 'f', 3);
     }
-    const int p = PlayerInterface::gpsPresent ? currentSample(PlayerInterface::gpsList) : -1;
+    const int p = PlaybackState::gpsPresent ? currentSample(PlaybackState::gpsList) : -1;
     // A point without a fix has no position to print (the map shows a stand-in there).
-    if (p >= 0 && (PlayerInterface::gpsList.at(p).latitude != 0 ||
-                   PlayerInterface::gpsList.at(p).longitude != 0)) {
-        const GpsPoint& point = PlayerInterface::gpsList.at(p);
+    if (p >= 0 && (PlaybackState::gpsList.at(p).latitude != 0 ||
+                   PlaybackState::gpsList.at(p).longitude != 0)) {
+        const GpsPoint& point = PlaybackState::gpsList.at(p);
         scene.latitude = coordinateText(point.latitude);
         scene.longitude = coordinateText(point.longitude);
         scene.speed = speedText(point.speed, speedUnit);

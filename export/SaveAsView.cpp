@@ -1,7 +1,7 @@
 #include "SaveAsView.h"
 
 #include "AppGlobals.h"
-#include "PlayerInterface.h"
+#include "PlaybackState.h"
 #include "SnapshotWriter.h"
 #include "StatusLog.h"
 #include "TavPrompt.h"
@@ -32,11 +32,11 @@ SaveAsView::SaveAsView(QWidget* parent)
     view->addChild(m_filePage, "pageFile", Style::Panel);
 
     // The recording as it is now.
-    m_recordingPath = PlayerInterface::currentFile;
+    m_recordingPath = PlaybackState::currentFile;
     m_recordingName = QFileInfo(m_recordingPath).fileName();
     view->addChild(new QLabel(m_scenePage), "strChannel", Style::Label);
     m_channels =
-        std::make_unique<ChannelChoices>(view, m_scenePage, PlayerInterface::playChannelCount,
+        std::make_unique<ChannelChoices>(view, m_scenePage, PlaybackState::playChannelCount,
                                          [](QWidget* parent) { return new QCheckBox(parent); });
     m_channelCount = m_channels->count();
     // All cameras are chosen to begin with.

@@ -15,29 +15,6 @@
 #include <algorithm>
 #include <cstring>
 
-QString PlayerInterface::currentFile;
-int PlayerInterface::playStatus = PlayerInterface::PlayIdle;
-double PlayerInterface::currentTime = 0;
-double PlayerInterface::currentPosition = 0;
-double PlayerInterface::totalTime = 0;
-int PlayerInterface::playChannelCount = 0;
-bool PlayerInterface::flipState[3] = {false, false, false};
-int PlayerInterface::volume = 100;
-int PlayerInterface::speedIndex = 2;
-bool PlayerInterface::muted = false;
-bool PlayerInterface::stopRequested = false;
-bool PlayerInterface::playRequested = false;
-bool PlayerInterface::firstOpenDone = false;
-bool PlayerInterface::telemetryPresent = false;
-bool PlayerInterface::gpsPresent = false;
-QList<GpsPoint> PlayerInterface::gpsList;
-QList<GSensorPoint> PlayerInterface::gSensorList;
-QString PlayerInterface::speedText = "0";
-QString PlayerInterface::latitudeText = "00.00000";
-QString PlayerInterface::longitudeText = "00.00000";
-QString PlayerInterface::gSensorXText = "0.000";
-QString PlayerInterface::gSensorYText = "0.000";
-QString PlayerInterface::gSensorZText = "0.000";
 
 namespace {
 
@@ -538,6 +515,10 @@ void PlayerInterface::setSub1Screen(QWidget* widget) {
 
 void PlayerInterface::setSub2Screen(QWidget* widget) {
     m_engine->SetVideoWindow(2, widget);
+}
+
+double PlayerInterface::position() const {
+    return m_engine->GetPosition();
 }
 
 QImage PlayerInterface::getScreenImage(int channel) {

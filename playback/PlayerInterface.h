@@ -1,7 +1,6 @@
 #pragma once
 
-#include "GSensorPoint.h"
-#include "GpsPoint.h"
+#include "PlaybackState.h"
 
 #include <QImage>
 #include <QList>
@@ -17,37 +16,9 @@ class VLCComponent;
 // Between the user interface and the video engine: opens the chosen recording with its
 // telemetry, keeps the play status, runs the 500 ms and 1 s ticks that drive the time
 // display, slider, chart and map, and carries out every play-control request.
-class PlayerInterface : public QObject {
+class PlayerInterface : public QObject, public PlaybackState {
     Q_OBJECT
 public:
-    enum PlayStatus { PlayIdle = 0, PlayRunning = 1, PlayPaused = 2, PlayStopped = 3 };
-
-    // Shared with the views.
-    static QString currentFile;
-    static int playStatus;
-    static double currentTime;
-    static double currentPosition;
-    static double totalTime;
-    static int playChannelCount;
-    static bool flipState[3];
-    static int volume;
-    // 1 = 0.5x, 2 = 1.0x (set when a recording starts), 3 = 1.5x, 4 = 2.0x.
-    static int speedIndex;
-    static bool muted;
-    static bool stopRequested;
-    static bool playRequested;
-    static bool firstOpenDone;
-    static bool telemetryPresent;
-    static bool gpsPresent;
-    static QList<GpsPoint> gpsList;
-    static QList<GSensorPoint> gSensorList;
-    static QString speedText;
-    static QString latitudeText;
-    static QString longitudeText;
-    static QString gSensorXText;
-    static QString gSensorYText;
-    static QString gSensorZText;
-
     // Deferred opening: ticks to wait while the engine is still stopping, and once it can
     // take a new file.
     static constexpr int kStoppingTicks = 1000;
@@ -64,6 +35,8 @@ public:
     void setSub2Screen(QWidget* widget);
 
     VLCComponent* engine() const { return m_engine; }
+    // Where playback stands in the recording, 0 to 1.
+    double position() const;
 
 signals:
     void onTimeout_500ms();

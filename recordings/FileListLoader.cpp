@@ -2,7 +2,7 @@
 
 #include "CameraCountDelegate.h"
 #include "NameSchemes.h"
-#include "PlayerInterface.h"
+#include "PlaybackState.h"
 #include "RecordingBatch.h"
 #include "RecordingName.h"
 #include "StatusLog.h"
@@ -51,8 +51,8 @@ void FileListLoader::loadPaths(const QStringList& paths) {
         files << folderFiles(info.absoluteFilePath(), &listed);
     }
     // A folder replaces the list as the open-folder dialog does, so it stops what plays.
-    if (folder && (PlayerInterface::playStatus == PlayerInterface::PlayRunning ||
-                   PlayerInterface::playStatus == PlayerInterface::PlayPaused))
+    if (folder && (PlaybackState::playStatus == PlaybackState::PlayRunning ||
+                   PlaybackState::playStatus == PlaybackState::PlayPaused))
         emit m_list.onSendStop(3);
     load(files, listed);
 }

@@ -1,7 +1,7 @@
 #include "FileListRemover.h"
 
 #include "ItemInfoThread.h"
-#include "PlayerInterface.h"
+#include "PlaybackState.h"
 #include "RecordingBatch.h"
 #include "StatusLog.h"
 #include "TavFileListItem.h"
@@ -35,8 +35,8 @@ void FileListRemover::deleteSelected(bool fromDisk) {
     }
     const bool currentSelected =
         m_list.hasCurrent() && rows.contains(TavFileListItem::currentIndex);
-    const int status = PlayerInterface::playStatus;
-    if (status == PlayerInterface::PlayRunning)
+    const int status = PlaybackState::playStatus;
+    if (status == PlaybackState::PlayRunning)
         emit m_list.onSendPause();
     const QString question =
         fromDisk ? TavFileListItem::tr("Do you want to delete the selected files at disk?")
@@ -46,15 +46,15 @@ void FileListRemover::deleteSelected(bool fromDisk) {
         return;
     }
     if (!fromDisk) {
-        if (currentSelected && status != PlayerInterface::PlayIdle &&
-            status != PlayerInterface::PlayStopped)
+        if (currentSelected && status != PlaybackState::PlayIdle &&
+            status != PlaybackState::PlayStopped)
             emit m_list.onSendStop(3);
     } else {
         if (m_list.m_itemInfo != nullptr && m_list.m_itemInfo->isBusy()) {
             logInfo("[TavFileListItem] Stop Thread");
             emit m_list.onSendThreadStop();
         }
-        if (currentSelected && status != PlayerInterface::PlayIdle) {
+        if (currentSelected && status != PlaybackState::PlayIdle) {
             logInfo("[TavFileListItem] SendStop 4");
             emit m_list.onSendStop(4);
         }

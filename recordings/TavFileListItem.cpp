@@ -5,14 +5,14 @@
 #include "FileListRemover.h"
 #include "ItemInfoThread.h"
 #include "LengthReading.h"
-#include "PlayerInterface.h"
+#include "PlaybackState.h"
 #include "RecordingName.h"
 #include "StatusLog.h"
 #include "TavPrompt.h"
 #include "TypeIconDelegate.h"
 #include "UiApplier.h"
 #include "UiDescription.h"
-#include "VLCComponent.h"
+#include "EngineState.h"
 
 #include <QAction>
 #include <QColor>
@@ -155,8 +155,8 @@ void TavFileListItem::recvReqFileOpen() {
 
 void TavFileListItem::onOpenFolderDlg() {
     logDebug("TavFileListItem::onOpenFolderDlg");
-    if (PlayerInterface::playStatus == PlayerInterface::PlayRunning ||
-        PlayerInterface::playStatus == PlayerInterface::PlayPaused)
+    if (PlaybackState::playStatus == PlaybackState::PlayRunning ||
+        PlaybackState::playStatus == PlaybackState::PlayPaused)
         emit onSendStop(3);
     const QString folder = TavPrompt::openFolder(this, tr("Open Folder"));
     if (!folder.isEmpty())
@@ -215,7 +215,7 @@ void TavFileListItem::onSortFile(int mask) {
 
 bool TavFileListItem::isCurrentRecording(const RecordingRecord& record) {
     // A row made while a lone rear file played may hand the player its front file now.
-    const QString& file = PlayerInterface::currentFile;
+    const QString& file = PlaybackState::currentFile;
     return !file.isEmpty() && (record.filePath == file || record.channelFiles.contains(file));
 }
 
@@ -227,7 +227,7 @@ bool TavFileListItem::hasCurrent() const {
 void TavFileListItem::syncCurrent() {
     m_position = -1;
     int found = -1;
-    for (int i = 0; !PlayerInterface::currentFile.isEmpty() && i < records.size(); ++i)
+    for (int i = 0; !PlaybackState::currentFile.isEmpty() && i < records.size(); ++i)
         if (isCurrentRecording(records.at(i))) {
             found = i;
             break;
@@ -301,7 +301,7 @@ void TavFileListItem::playItem(int index, bool tell) {
         return;
     }
     currentIndex = index;
-    PlayerInterface::currentFile = records.at(index).filePath;
+    PlaybackState::currentFile = records.at(index).filePath;
     m_position = visibleRows.indexOf(records.at(index).row);
     selectRow(index);
     setCurrentCell(index, NameColumn, QItemSelectionModel::NoUpdate);
@@ -344,8 +344,8 @@ void TavFileListItem::onChangePlayItem(int direction) {
         // Reached after the player stopped to move on (a step back at the very start): with
         // nothing to move to, it stays stopped at the logo and takes input again. The player
         // blocks input right after asking to move on, so the release comes after that.
-        if (PlayerInterface::playStatus != PlayerInterface::PlayRunning &&
-            PlayerInterface::playStatus != PlayerInterface::PlayPaused)
+        if (PlaybackState::playStatus != PlaybackState::PlayRunning &&
+            PlaybackState::playStatus != PlaybackState::PlayPaused)
             emit onSendLogoSet(true);
         QTimer::singleShot(0, this, [this] { emit onSetBlockEvent(false); });
         TavPrompt::inform(this, tr("There is no item."));
@@ -397,7 +397,7 @@ void TavFileListItem::resetList() {
     visibleRows.clear();
     resetPressState();
     m_thumbRequested.clear();
-    PlayerInterface::currentFile.clear();
+    PlaybackState::currentFile.clear();
     emit onSendLogoSet(true);
     emit onSetBlockEvent(false);
 }
@@ -508,7 +508,7 @@ void TavFileListItem::mouseDoubleClickEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton || m_blocked)
         return;
     logDebug("TavFileListItem::mouseDoubleClickEvent");
-    if (PlayerInterface::playStatus != PlayerInterface::PlayStopped) {
+    if (PlaybackState::playStatus != PlaybackState::PlayStopped) {
         m_controlHeld = m_shiftHeld = false;
         onChangeSelectionMode();
         viewport()->update();
@@ -519,7 +519,7 @@ void TavFileListItem::mouseDoubleClickEvent(QMouseEvent* event) {
 
 void TavFileListItem::chooseRow(int row) {
     // While the engine is still taking a file, a second request would overlap it.
-    if (VLCComponent::playerState == VLCComponent::FileSet)
+    if (EngineState::playerState == EngineState::FileSet)
         return;
     emit onSendStop(1);
     playItem(row);

@@ -29,7 +29,7 @@ class TypeIconDelegate;
 // row removes it from the list or, with all its files, from the disk. FileListLoader does
 // the loading and FileListRemover the deleting.
 //
-// Choosing a row to play sets PlayerInterface::currentFile and currentIndex, selects and
+// Choosing a row to play sets PlaybackState::currentFile and currentIndex, selects and
 // shows the row and emits doubleClickedItem(), which the main window connects to the
 // coordinator's checkFileReady().
 //

@@ -1,7 +1,9 @@
 #!/usr/bin/env python3
-"""Checks the link graph of the program's libraries as CMake builds it: no cycle, and the lower
-layers (process-wide values and status log, UI descriptions, platform code, stream library,
-name rules) reach no library above them. Exits 1 naming the offending path otherwise.
+"""Checks the link graph of the program's libraries as CMake builds it: no cycle, the lower
+layers (process-wide values and status log, what plays, UI descriptions, platform code,
+stream library, name rules) reach no library above them, and the views that only read what
+plays (the list, export, the chart and the map) reach neither the video engine nor libvlc.
+Exits 1 naming the offending path otherwise.
 
     check_layers.py SOURCE_DIR SCRATCH_DIR
 """
@@ -12,7 +14,11 @@ import subprocess
 import sys
 
 PREFIX = "tavoric_"
-LOWER = {"tavoric_core", "tavoric_ui", "tavoric_platform", "tavoric_kdxstream", "tavoric_names"}
+LOWER = {"tavoric_core", "tavoric_playstate", "tavoric_ui", "tavoric_platform",
+         "tavoric_kdxstream", "tavoric_names"}
+# Libraries that must not reach the engine or libvlc, and what counts as either.
+VIEWS = {"tavoric_recordings", "tavoric_export", "tavoric_telemetry_views"}
+ENGINE = ("tavoric_engine", "LIBVLC", "vlc")
 
 
 def read_graph(dot_path):
@@ -25,7 +31,7 @@ def read_graph(dot_path):
     edges = {}
     for match in filter(None, map(re.compile(r'^\s*"(node\d+)" -> "(node\d+)"').match, lines)):
         source, target = names.get(match.group(1)), names.get(match.group(2))
-        if source and target and source.startswith(PREFIX) and target.startswith(PREFIX):
+        if source and target and source.startswith(PREFIX):
             edges.setdefault(source, set()).add(target)
     return {name for name in names.values() if name.startswith(PREFIX)}, edges
 
@@ -54,18 +60,28 @@ def find_cycle(libraries, edges):
     return None
 
 
-def reach_above(library, edges):
-    """A path from a lower library to one above the lower layers, or None."""
+def reach(library, edges, forbidden):
+    """A path from library to a node for which forbidden(node) holds, or None."""
     seen, paths = set(), [[library]]
     while paths:
         path = paths.pop()
         for target in sorted(edges.get(path[-1], ())):
-            if target not in LOWER:
+            if forbidden(target):
                 return path + [target]
             if target not in seen:
                 seen.add(target)
                 paths.append(path + [target])
     return None
+
+
+def reach_above(library, edges):
+    """A path from a lower library to one of the project's above the lower layers, or None."""
+    return reach(library, edges, lambda node: node.startswith(PREFIX) and node not in LOWER)
+
+
+def reach_engine(library, edges):
+    """A path from a view to the video engine or libvlc, or None."""
+    return reach(library, edges, lambda node: any(name in node for name in ENGINE))
 
 
 def main():
@@ -80,19 +96,23 @@ def main():
     if configure.returncode != 0:
         sys.exit("check_layers: cmake failed:\n" + configure.stderr)
     libraries, edges = read_graph(dot)
-    missing = LOWER - libraries
+    missing = (LOWER | VIEWS | {"tavoric_engine"}) - libraries
     if missing or len(libraries) < 8:
         sys.exit("check_layers: the graph lacks libraries it must have: %s (found %s)" %
                  (sorted(missing), sorted(libraries)))
-    cycle = find_cycle(libraries, edges)
+    ours = {name: {t for t in targets if t.startswith(PREFIX)} for name, targets in edges.items()}
+    cycle = find_cycle(libraries, ours)
     failures = ["cycle: " + " -> ".join(cycle)] if cycle else []
     failures += ["lower library links upwards: " + " -> ".join(path)
                  for path in filter(None, (reach_above(lib, edges) for lib in sorted(LOWER)))]
+    failures += ["a view reaches the video engine: " + " -> ".join(path)
+                 for path in filter(None, (reach_engine(lib, edges) for lib in sorted(VIEWS)))]
     for library in sorted(libraries):
-        print("%-22s -> %s" % (library, ", ".join(sorted(edges.get(library, ()))) or "-"))
+        print("%-24s -> %s" % (library, ", ".join(sorted(ours.get(library, ()))) or "-"))
     if failures:
         sys.exit("\n".join(failures))
-    print("%d libraries, no cycle, lower layers link only lower layers" % len(libraries))
+    print("%d libraries, no cycle, lower layers link only lower layers, views not the engine"
+          % len(libraries))
 
 
 if __name__ == "__main__":

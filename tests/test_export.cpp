@@ -4,7 +4,7 @@
 #include "AppGlobals.h"
 #include "FfmpegProgress.h"
 #include "FfmpegRunner.h"
-#include "PlayerInterface.h"
+#include "PlaybackState.h"
 #include "PreviewPrint.h"
 #include "PrintChannelSelectView.h"
 #include "PrintView.h"
@@ -137,8 +137,8 @@ class TestExport : public QObject {
 
     // The dialog for a recording, with only `channels` checked.
     SaveAsView* open(const QString& recording, int channelCount, const QList<int>& channels) {
-        PlayerInterface::currentFile = recording;
-        PlayerInterface::playChannelCount = channelCount;
+        PlaybackState::currentFile = recording;
+        PlaybackState::playChannelCount = channelCount;
         auto* view = new SaveAsView;
         for (int i = 0; i < channelCount; ++i)
             view->findChild<QCheckBox*>(QStringLiteral("item%1").arg(i + 1))
@@ -163,19 +163,19 @@ class TestExport : public QObject {
 
     // A recording paused at 65 s of 100 s; telemetry sample 65 says where the car is.
     void playRecording() {
-        PlayerInterface::currentFile = "/cards/DCIM/20240301_090000_INF_1.mp4";
-        PlayerInterface::playStatus = PlayerInterface::PlayPaused;
-        PlayerInterface::playChannelCount = 3;
-        PlayerInterface::currentTime = 65000;
-        PlayerInterface::totalTime = 100000;
-        PlayerInterface::telemetryPresent = true;
-        PlayerInterface::gpsPresent = true;
-        PlayerInterface::gpsList.clear();
-        PlayerInterface::gSensorList.clear();
+        PlaybackState::currentFile = "/cards/DCIM/20240301_090000_INF_1.mp4";
+        PlaybackState::playStatus = PlaybackState::PlayPaused;
+        PlaybackState::playChannelCount = 3;
+        PlaybackState::currentTime = 65000;
+        PlaybackState::totalTime = 100000;
+        PlaybackState::telemetryPresent = true;
+        PlaybackState::gpsPresent = true;
+        PlaybackState::gpsList.clear();
+        PlaybackState::gSensorList.clear();
         for (int i = 0; i < 100; ++i) {
-            PlayerInterface::gpsList << GpsPoint{
+            PlaybackState::gpsList << GpsPoint{
                 i, 37.12345f + (i - 65) * 0.001f, 127.54321f, 20.0f + (i == 65 ? 22.5f : 0), 1, 1};
-            PlayerInterface::gSensorList << GSensorPoint{i, i == 65 ? 0.125f : 0.0f, -0.25f, 1.0f};
+            PlaybackState::gSensorList << GSensorPoint{i, i == 65 ? 0.125f : 0.0f, -0.25f, 1.0f};
         }
     }
 
@@ -451,7 +451,7 @@ private slots:
                  QStandardPaths::writableLocation(QStandardPaths::PicturesLocation) + "/ZENTA");
         QVERIFY(!view->findChild<QRadioButton*>("rMp4")->isVisible());
         // Only the recording's cameras are offered.
-        PlayerInterface::playChannelCount = 2;
+        PlaybackState::playChannelCount = 2;
         SaveAsView two;
         QVERIFY(two.findChild<QCheckBox*>("item2")->isEnabled());
         QVERIFY(!two.findChild<QCheckBox*>("item3")->isEnabled());
@@ -491,14 +491,14 @@ private slots:
         QCOMPARE(ReportScene::coordinateText(7.5), QStringLiteral("07.50000"));
         QCOMPARE(ReportScene::coordinateText(-3.25), QStringLiteral("-03.25000"));
         // No fix at this moment: no position, the G-sensor values stay.
-        PlayerInterface::gpsList[65].latitude = 0;
-        PlayerInterface::gpsList[65].longitude = 0;
+        PlaybackState::gpsList[65].latitude = 0;
+        PlaybackState::gpsList[65].longitude = 0;
         ReportScene scene = ReportScene::fromPlayback(QString(), 1);
         QVERIFY(scene.latitude.isEmpty() && scene.speed.isEmpty());
         QCOMPARE(scene.gSensorZ, QStringLiteral("1.000"));
         // No telemetry at all, and a name without its time.
-        PlayerInterface::telemetryPresent = false;
-        PlayerInterface::currentFile = "/x/drive.mp4";
+        PlaybackState::telemetryPresent = false;
+        PlaybackState::currentFile = "/x/drive.mp4";
         scene = ReportScene::fromPlayback(QString(), 1);
         QVERIFY(scene.gSensorX.isEmpty() && scene.latitude.isEmpty() && scene.date.isEmpty());
     }
@@ -513,7 +513,7 @@ private slots:
         QCOMPARE(m_messages, QStringList{"There is not selected channel!"});
         QVERIFY(select.printView() == nullptr);
         // Only the recording's cameras are offered.
-        PlayerInterface::playChannelCount = 2;
+        PlaybackState::playChannelCount = 2;
         PrintChannelSelectView two;
         QVERIFY(two.findChild<QRadioButton*>("item2")->isEnabled());
         QVERIFY(!two.findChild<QRadioButton*>("item3")->isEnabled());
@@ -564,8 +564,8 @@ private slots:
     }
 
     void withoutTelemetryTheLabelsStay() {
-        PlayerInterface::telemetryPresent = false;
-        PlayerInterface::gpsPresent = false;
+        PlaybackState::telemetryPresent = false;
+        PlaybackState::gpsPresent = false;
         QTemporaryDir out;
         const QString pdf = savedReport(out.path(), 1, QString());
         QVERIFY(!pdf.isEmpty());

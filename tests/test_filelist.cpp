@@ -4,7 +4,7 @@
 #include "AppGlobals.h"
 #include "CameraCountDelegate.h"
 #include "ItemInfoThread.h"
-#include "PlayerInterface.h"
+#include "PlaybackState.h"
 #include "RecordingName.h"
 #include "TavFileComboBox.h"
 #include "TavFileListItem.h"
@@ -196,8 +196,8 @@ private slots:
         m_messages.clear();
         m_questions.clear();
         m_answer = false;
-        PlayerInterface::playStatus = PlayerInterface::PlayIdle;
-        PlayerInterface::currentFile.clear();
+        PlaybackState::playStatus = PlaybackState::PlayIdle;
+        PlaybackState::currentFile.clear();
     }
 
     void onePathAppendsAndRefusesDuplicates() {
@@ -280,7 +280,7 @@ private slots:
             QFile(folder + '/' + QLatin1String(name)).open(QIODevice::WriteOnly);
         QDir().mkpath(folder + "/20240105_120000_INF_1.mp4"); // a folder is not a recording
         TavFileListItem list;
-        PlayerInterface::playStatus = PlayerInterface::PlayRunning;
+        PlaybackState::playStatus = PlaybackState::PlayRunning;
         QSignalSpy stop(&list, &TavFileListItem::onSendStop);
         drop(list, {folder});
         QCOMPARE(shownNames(list), (QStringList{"20240105_090000_EVT", "20240105_100000_INF",
@@ -400,7 +400,7 @@ private slots:
         list.show();
         QCOMPARE(list.rowCount(), 3);
         list.onSetFirstFile();
-        PlayerInterface::playStatus = PlayerInterface::PlayPaused;
+        PlaybackState::playStatus = PlaybackState::PlayPaused;
         QSignalSpy stop(&list, &TavFileListItem::onSendStop);
         // A camera's file copied in after the listing belongs to the recording too.
         drive << touch("20240612_090000_INF_3.mp4", "deleting");
@@ -440,7 +440,7 @@ private slots:
         QVERIFY(list.isRowHidden(2) && list.isRowHidden(4));
 
         list.onSetFirstFile();
-        QCOMPARE(PlayerInterface::currentFile, paths.at(0));
+        QCOMPARE(PlaybackState::currentFile, paths.at(0));
         QList<int> order;
         for (int i = 0; i < 3; ++i) {
             list.onChangePlayItem(1);
@@ -454,7 +454,7 @@ private slots:
         QCOMPARE(m_messages, QStringList{kNoItem});
         list.onChangePlayItem(-1);
         list.onChangePlayItem(0);
-        QCOMPARE(PlayerInterface::currentFile, paths.at(1));
+        QCOMPARE(PlaybackState::currentFile, paths.at(1));
 
         // The end of the last shown row reached by playback: stop quietly at the logo.
         list.onSortFile(15);
@@ -477,7 +477,7 @@ private slots:
         list.onChangePlayItem(0);
         QCOMPARE(TavFileListItem::currentIndex, 3);
         list.onChangePlayItem(0);
-        QCOMPARE(PlayerInterface::currentFile, paths.at(2));
+        QCOMPARE(PlaybackState::currentFile, paths.at(2));
         QCOMPARE(list.currentPosition(), 2);
         list.onSortFile(1 | 2 | 8);
         QCOMPARE(list.currentPosition(), -1);
@@ -499,7 +499,7 @@ private slots:
         list.show();
         list.onChangePlayItem(1);
         list.onChangePlayItem(1); // row 1 plays
-        PlayerInterface::playStatus = PlayerInterface::PlayRunning;
+        PlaybackState::playStatus = PlaybackState::PlayRunning;
         QSignalSpy pause(&list, &TavFileListItem::onSendPause);
         QSignalSpy stop(&list, &TavFileListItem::onSendStop);
         select(list, {1, 4});
@@ -552,14 +552,14 @@ private slots:
         QCOMPARE(stop.count(), 1);
         QCOMPARE(stop.at(0).at(0).toInt(), 1);
         QCOMPARE(chosen.count(), 1);
-        QCOMPARE(PlayerInterface::currentFile, paths.at(3));
+        QCOMPARE(PlaybackState::currentFile, paths.at(3));
         QCOMPARE(TavFileListItem::currentIndex, 3);
         QCOMPARE(list.selectionModel()->selectedRows(), QModelIndexList{list.model()->index(3, 0)});
         // Enter plays the current row as a double click does.
         list.setCurrentCell(0, TavFileListItem::NameColumn);
         QTest::keyClick(&list, Qt::Key_Return);
         QCOMPARE(chosen.count(), 2);
-        QCOMPARE(PlayerInterface::currentFile, paths.at(0));
+        QCOMPARE(PlaybackState::currentFile, paths.at(0));
         QCOMPARE(TavFileListItem::currentIndex, 0);
     }
 
@@ -620,7 +620,7 @@ private slots:
         list.onReceiveFileList({touch("20240201_080000_EVT_1.mp4")});
         QCOMPARE(list.rowCount(), 1);
         QCOMPARE(TavFileListItem::records.size(), 1);
-        QVERIFY(PlayerInterface::currentFile.isEmpty());
+        QVERIFY(PlaybackState::currentFile.isEmpty());
         QCOMPARE(TavFileListItem::currentIndex, 0);
         QCOMPARE(logo.count(), 1);
     }
@@ -717,7 +717,7 @@ private slots:
         m_messages.clear();
         list.onForwardItemSet();
         QCOMPARE(chosen.count(), 1);
-        QCOMPARE(PlayerInterface::currentFile, paths.at(3));
+        QCOMPARE(PlaybackState::currentFile, paths.at(3));
         QVERIFY(m_messages.isEmpty());
     }
 

@@ -5,7 +5,7 @@
 #include "ChartView.h"
 #include "MapPageCipher.h"
 #include "MapView.h"
-#include "PlayerInterface.h"
+#include "PlaybackState.h"
 
 #include <QApplication>
 #include <QFile>
@@ -24,17 +24,17 @@
 namespace {
 
 void setPlaying(double currentMs, double totalMs) {
-    PlayerInterface::playStatus = PlayerInterface::PlayPaused;
-    PlayerInterface::telemetryPresent = true;
-    PlayerInterface::currentTime = currentMs;
-    PlayerInterface::totalTime = totalMs;
+    PlaybackState::playStatus = PlaybackState::PlayPaused;
+    PlaybackState::telemetryPresent = true;
+    PlaybackState::currentTime = currentMs;
+    PlaybackState::totalTime = totalMs;
 }
 
 // count G-sensor points: X = k / 100, Y = -1, Z = 0.5.
 void fillGSensor(int count) {
-    PlayerInterface::gSensorList.clear();
+    PlaybackState::gSensorList.clear();
     for (int k = 0; k < count; ++k)
-        PlayerInterface::gSensorList.append({k, float(k / 100.0), -1.0f, 0.5f});
+        PlaybackState::gSensorList.append({k, float(k / 100.0), -1.0f, 0.5f});
 }
 
 bool isColour(QRgb pixel, const char* colour) {
@@ -86,7 +86,7 @@ class TestTelemetryViews : public QObject {
 
     // The map after a tick at this time of the recording.
     static QStringList tick(MapView& map, QSignalSpy& spy, double ms) {
-        PlayerInterface::currentTime = ms;
+        PlaybackState::currentTime = ms;
         map.onUpdateMap();
         return take(spy);
     }
@@ -103,11 +103,11 @@ private slots:
     void initTestCase() { AppGlobals::dataFolder = m_data.path(); }
 
     void init() {
-        PlayerInterface::gSensorList.clear();
-        PlayerInterface::gpsList.clear();
+        PlaybackState::gSensorList.clear();
+        PlaybackState::gpsList.clear();
         setPlaying(0, 0);
-        PlayerInterface::playStatus = PlayerInterface::PlayIdle;
-        PlayerInterface::telemetryPresent = false;
+        PlaybackState::playStatus = PlaybackState::PlayIdle;
+        PlaybackState::telemetryPresent = false;
     }
 
     // ---- Chart ----
@@ -126,7 +126,7 @@ private slots:
         for (const char* label : {"gSensorLXValue", "gSensorLYValue", "gSensorLZValue"})
             values << chart.findChild<QLabel*>(label)->text();
         QCOMPARE(values, (QStringList{"0.490", "-1.000", "0.500"}));
-        QCOMPARE(PlayerInterface::gSensorXText, QStringLiteral("0.490"));
+        QCOMPARE(PlaybackState::gSensorXText, QStringLiteral("0.490"));
 
         const QImage image = chart.grab().toImage();
         const QRect bar = chart.barRect();
@@ -150,13 +150,13 @@ private slots:
         QCOMPARE(image.pixel(line, bar.bottom()) & 0xffffff, QRgb(0xffffff));
 
         // At time 0 the labels keep what they show.
-        PlayerInterface::currentTime = 0;
+        PlaybackState::currentTime = 0;
         chart.onUpdateChart();
         QCOMPARE(chart.findChild<QLabel*>("gSensorLXValue")->text(), QStringLiteral("0.490"));
 
         // Cleared: "0.000" and nothing drawn; fewer than two samples draw no line either.
         chart.onClearData();
-        QVERIFY(PlayerInterface::gSensorList.isEmpty());
+        QVERIFY(PlaybackState::gSensorList.isEmpty());
         QCOMPARE(chart.findChild<QLabel*>("gSensorLYValue")->text(), QStringLiteral("0.000"));
         for (int points : {0, 2, 3}) { // no point, 0 and 1 samples
             fillGSensor(points);
@@ -219,7 +219,7 @@ private slots:
         QCOMPARE(seek.count(), 2);
         QVERIFY(qAbs(seek.last().at(0).toInt() - 30000) < 100);
         // Nothing to move without a recording.
-        PlayerInterface::playStatus = PlayerInterface::PlayIdle;
+        PlaybackState::playStatus = PlaybackState::PlayIdle;
         QTest::mouseClick(&chart, Qt::LeftButton, {}, QPoint(bar.x() + 50, 20));
         QCOMPARE(seek.count(), 2);
     }
@@ -227,7 +227,7 @@ private slots:
     // ---- Map ----
 
     void mapSendsNothingButInitMapBeforeItsPageIsUp() {
-        PlayerInterface::gpsList = {{0, 37.5f, 127.0f, 40.0f, 0, 0},
+        PlaybackState::gpsList = {{0, 37.5f, 127.0f, 40.0f, 0, 0},
                                     {1, 37.5f, 127.001f, 41.0f, 0, 0}};
         MapView map;
         QSignalSpy scripts(&map, &MapView::scriptSent);
@@ -246,7 +246,7 @@ private slots:
 
     // Miles per hour chosen while a recording shows: the car's label changes at once.
     void mapShowsSpeedsInTheChosenUnit() {
-        PlayerInterface::gpsList = {{0, 37.5f, 127.0f, 80.0f, 0, 0},
+        PlaybackState::gpsList = {{0, 37.5f, 127.0f, 80.0f, 0, 0},
                                     {1, 37.5f, 127.001f, 80.0f, 0, 0}};
         MapView map;
         map.resize(310, 400);
@@ -275,7 +275,7 @@ private slots:
         // Ten points without a fix, then a drive east at 42.5 km/h.
         for (int i = 0; i < 100; ++i) {
             const bool fix = i >= 10;
-            PlayerInterface::gpsList.append(
+            PlaybackState::gpsList.append(
                 {i, fix ? 37.40012f : 0.0f, fix ? float(127.1 + i * 0.0001) : 0.0f, 42.5f, 0, 0});
         }
         MapView map;
@@ -288,7 +288,7 @@ private slots:
         QCOMPARE(sent.at(0), QStringLiteral("initMap()"));
         QVERIFY(sent.at(1).startsWith("setRoute([[0.00000,0.00000,42.5],"));
         QCOMPARE(sent.at(2), QStringLiteral("setLatLng(37.48534, 127.11623, 0, true)"));
-        QCOMPARE(PlayerInterface::latitudeText, QStringLiteral("37.48534"));
+        QCOMPARE(PlaybackState::latitudeText, QStringLiteral("37.48534"));
         // At time 0 and at the very end nothing is sent.
         QVERIFY(tick(map, scripts, 0).isEmpty() && tick(map, scripts, 9900).isEmpty());
         // Still no fix at point 5: the default position, as a move.
@@ -300,16 +300,16 @@ private slots:
         QCOMPARE(sent.at(0), QStringLiteral("initMap()"));
         QVERIFY(sent.at(1).startsWith("setRoute(["));
         QCOMPARE(sent.at(2), QStringLiteral("setLatLng(37.40012, 127.10200, 42.5, false)"));
-        QCOMPARE(PlayerInterface::longitudeText, QStringLiteral("127.10200"));
-        QCOMPARE(PlayerInterface::speedText, QStringLiteral("42.5"));
+        QCOMPARE(PlaybackState::longitudeText, QStringLiteral("127.10200"));
+        QCOMPARE(PlaybackState::speedText, QStringLiteral("42.5"));
         // Later points only move the car; not playing, or cleared, nothing.
         QCOMPARE(tick(map, scripts, 3000),
                  QStringList{"setLatLng(37.40012, 127.10300, 42.5, false)"});
-        PlayerInterface::playStatus = PlayerInterface::PlayIdle;
+        PlaybackState::playStatus = PlaybackState::PlayIdle;
         QVERIFY(tick(map, scripts, 4000).isEmpty());
         QSignalSpy keyboard(&map, &MapView::onSendBlockKeyboardEvent);
         map.onClearData();
-        QVERIFY(PlayerInterface::gpsList.isEmpty());
+        QVERIFY(PlaybackState::gpsList.isEmpty());
         QCOMPARE(keyboard.count(), 1);
         setPlaying(3000, 9900);
         QVERIFY(tick(map, scripts, 3000).isEmpty());

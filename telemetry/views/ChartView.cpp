@@ -1,7 +1,7 @@
 #include "ChartView.h"
 
 #include "ChartTrace.h"
-#include "PlayerInterface.h"
+#include "PlaybackState.h"
 #include "StatusLog.h"
 
 #include <QLabel>
@@ -15,8 +15,8 @@ const char* const ChartView::kAxisColours[3] = {"#ff3a00", "#318dff", "#65ca26"}
 namespace {
 
 QString* displayText(int axis) {
-    QString* const texts[3] = {&PlayerInterface::gSensorXText, &PlayerInterface::gSensorYText,
-                               &PlayerInterface::gSensorZText};
+    QString* const texts[3] = {&PlaybackState::gSensorXText, &PlaybackState::gSensorYText,
+                               &PlaybackState::gSensorZText};
     return texts[axis];
 }
 
@@ -49,15 +49,15 @@ QRect ChartView::barRect() const {
 }
 
 bool ChartView::hasRecording() const {
-    return (PlayerInterface::playStatus == PlayerInterface::PlayRunning ||
-            PlayerInterface::playStatus == PlayerInterface::PlayPaused) &&
-           PlayerInterface::totalTime > 0;
+    return (PlaybackState::playStatus == PlaybackState::PlayRunning ||
+            PlaybackState::playStatus == PlaybackState::PlayPaused) &&
+           PlaybackState::totalTime > 0;
 }
 
 void ChartView::onloadChart() {
     logDebug("ChartView::onloadChart");
     logInfo("[ChartView]: Load chart data completely.");
-    const QList<GSensorPoint>& points = PlayerInterface::gSensorList;
+    const QList<GSensorPoint>& points = PlaybackState::gSensorList;
     if (!points.isEmpty())
         m_sampleCount = points.last().index - 1;
     for (auto& series : m_series)
@@ -75,10 +75,10 @@ void ChartView::onloadChart() {
 
 void ChartView::onUpdateChart() {
     logDebug("ChartView::onUpdateChart");
-    if (PlayerInterface::telemetryPresent && hasRecording()) {
+    if (PlaybackState::telemetryPresent && hasRecording()) {
         m_chartActive = true;
         const int size = m_series[0].size();
-        const int i = int(size * PlayerInterface::currentTime / PlayerInterface::totalTime);
+        const int i = int(size * PlaybackState::currentTime / PlaybackState::totalTime);
         if (i > 0 && i < size) {
             for (int axis = 0; axis < 3; ++axis) {
                 const QString text = QString::number(m_series[axis].at(i).y(), 'f', 3);
@@ -92,7 +92,7 @@ void ChartView::onUpdateChart() {
 
 void ChartView::onClearData() {
     logDebug("ChartView::onClearData");
-    PlayerInterface::gSensorList.clear();
+    PlaybackState::gSensorList.clear();
     for (int axis = 0; axis < 3; ++axis) {
         m_series[axis].clear();
         m_lines[axis].clear();
@@ -123,7 +123,7 @@ void ChartView::resizeEvent(QResizeEvent* event) {
 }
 
 void ChartView::paintEvent(QPaintEvent*) {
-    if (PlayerInterface::gSensorList.isEmpty() || !m_chartLoaded)
+    if (PlaybackState::gSensorList.isEmpty() || !m_chartLoaded)
         return;
     QPainter painter(this);
     const QRect bar = barRect();
@@ -134,11 +134,11 @@ void ChartView::paintEvent(QPaintEvent*) {
         painter.drawLines(m_lines[axis]);
     }
     painter.restore();
-    if (PlayerInterface::totalTime <= 0)
+    if (PlaybackState::totalTime <= 0)
         return;
     const int x =
         m_dragX >= 0 ? m_dragX
-                     : int(bar.width() * PlayerInterface::currentTime / PlayerInterface::totalTime);
+                     : int(bar.width() * PlaybackState::currentTime / PlaybackState::totalTime);
     painter.setPen(Qt::white);
     painter.drawLine(x, bar.top(), x, bar.bottom());
 }
@@ -146,7 +146,7 @@ void ChartView::paintEvent(QPaintEvent*) {
 int ChartView::timeAt(int x) const {
     const QRect bar = barRect();
     const double share = std::clamp(double(x - bar.x()) / std::max(1, bar.width()), 0.0, 1.0);
-    return int(share * PlayerInterface::totalTime);
+    return int(share * PlaybackState::totalTime);
 }
 
 void ChartView::mousePressEvent(QMouseEvent* event) {

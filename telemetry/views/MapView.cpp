@@ -2,7 +2,7 @@
 
 #include "AppGlobals.h"
 #include "MapPageCipher.h"
-#include "PlayerInterface.h"
+#include "PlaybackState.h"
 #include "StatusLog.h"
 
 #include <QCoreApplication>
@@ -92,8 +92,8 @@ void MapView::onLoadMap() {
     logDebug("MapView::onLoadMap");
     logDebug("MapView::setData");
     m_points.clear();
-    m_points.reserve(PlayerInterface::gpsList.size());
-    for (const GpsPoint& point : PlayerInterface::gpsList)
+    m_points.reserve(PlaybackState::gpsList.size());
+    for (const GpsPoint& point : PlaybackState::gpsList)
         m_points.append({point.index, point.latitude, point.longitude, point.speed});
     m_usedDefault = false;
     m_noFix[0] = m_noFix[1] = false;
@@ -120,13 +120,13 @@ void MapView::onLoadMap() {
 
 void MapView::onUpdateMap() {
     logDebug("MapView::onUpdateMap");
-    if (!PlayerInterface::telemetryPresent || m_points.isEmpty() ||
-        (PlayerInterface::playStatus != PlayerInterface::PlayRunning &&
-         PlayerInterface::playStatus != PlayerInterface::PlayPaused) ||
-        PlayerInterface::totalTime <= 0)
+    if (!PlaybackState::telemetryPresent || m_points.isEmpty() ||
+        (PlaybackState::playStatus != PlaybackState::PlayRunning &&
+         PlaybackState::playStatus != PlaybackState::PlayPaused) ||
+        PlaybackState::totalTime <= 0)
         return;
     const int lastIndex = m_points.last().index;
-    const int i = int(lastIndex * PlayerInterface::currentTime / PlayerInterface::totalTime);
+    const int i = int(lastIndex * PlaybackState::currentTime / PlaybackState::totalTime);
     if (i < 1 || i >= lastIndex || !m_mapLoaded || i >= m_points.size())
         return;
     const MapPoint& point = m_points.at(i);
@@ -176,9 +176,9 @@ void MapView::showPosition(double latitude, double longitude, double speed, bool
         run(QStringLiteral("setLatLng(%1, %2, %3, %4)")
                 .arg(coordinate(latitude), coordinate(longitude), speedText(speed),
                      first ? QStringLiteral("true") : QStringLiteral("false")));
-    PlayerInterface::latitudeText = coordinate(latitude);
-    PlayerInterface::longitudeText = coordinate(longitude);
-    PlayerInterface::speedText = speedText(speed);
+    PlaybackState::latitudeText = coordinate(latitude);
+    PlaybackState::longitudeText = coordinate(longitude);
+    PlaybackState::speedText = speedText(speed);
 }
 
 QString MapView::routeScript() const {
@@ -195,7 +195,7 @@ QString MapView::routeScript() const {
 
 void MapView::onClearData() {
     logDebug("MapView::onClearData");
-    PlayerInterface::gpsList.clear();
+    PlaybackState::gpsList.clear();
     m_points.clear();
     m_lastPosition.clear();
     m_mapLoaded = false;

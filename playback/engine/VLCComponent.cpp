@@ -1,5 +1,7 @@
 #include "VLCComponent.h"
 
+#include <vlc/vlc.h>
+
 #include "ChannelFiles.h"
 #include "ChannelGate.h"
 #include "FreedMemory.h"
@@ -14,10 +16,6 @@
 #include <cstdlib>
 #include <cstring>
 
-int VLCComponent::channelCount = 0;
-int VLCComponent::playerState = 0;
-int VLCComponent::esDeletePending = 0;
-int VLCComponent::stopReason = 0;
 QWidget* VLCComponent::videoWidgets[VLCComponent::kMaxChannels] = {nullptr, nullptr, nullptr};
 
 VLCComponent::VLCComponent(QObject* parent)

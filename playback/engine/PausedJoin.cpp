@@ -1,5 +1,7 @@
 #include "PausedJoin.h"
 
+#include <vlc/vlc.h>
+
 #include "ChannelPlayers.h"
 #include "StatusLog.h"
 

@@ -1,5 +1,7 @@
 #include "ChannelGate.h"
 
+#include <vlc/vlc.h>
+
 #include "StatusLog.h"
 
 #include <QTimer>

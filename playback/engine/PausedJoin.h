@@ -3,7 +3,10 @@
 #include <QImage>
 #include <QObject>
 
-#include <vlc/vlc.h>
+// libvlc's types, declared here so that this header does not bring libvlc's to its readers.
+struct libvlc_event_t;
+struct libvlc_instance_t;
+struct libvlc_media_player_t;
 
 class ChannelPlayers;
 class QTimer;

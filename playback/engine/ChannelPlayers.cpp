@@ -1,5 +1,7 @@
 #include "ChannelPlayers.h"
 
+#include <vlc/vlc.h>
+
 #include "ChannelFiles.h"
 #include "VlcCompat.h"
 

@@ -2,9 +2,12 @@
 
 #include <QByteArray>
 
-#include <vlc/vlc.h>
-
 #include <cstdint>
+
+// libvlc's types, declared here so that this header does not bring libvlc's to its readers.
+struct libvlc_event_t;
+struct libvlc_instance_t;
+struct libvlc_media_player_t;
 
 class QWidget;
 

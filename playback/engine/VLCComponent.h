@@ -2,15 +2,19 @@
 
 #include "ChannelPlayers.h"
 #include "DriftEstimator.h"
+#include "EngineState.h"
 #include "PlayClock.h"
+
 #include <QObject>
-
 #include <QSize>
-
-#include <vlc/vlc.h>
 
 #include <atomic>
 #include <mutex>
+
+// libvlc's types, declared here so that this header does not bring libvlc's to its readers.
+struct libvlc_event_t;
+struct libvlc_instance_t;
+struct libvlc_media_player_t;
 
 class ChannelGate;
 class PausedJoin;
@@ -28,34 +32,10 @@ class QWidget;
 // libvlc calls the event handlers on its own threads. They only record state and emit
 // signals; whatever libvlc work must follow an event runs in a queued slot on the GUI
 // thread, because calling back into a player from its own callback can deadlock.
-class VLCComponent : public QObject {
+class VLCComponent : public QObject, public EngineState {
     Q_OBJECT
 public:
-    enum PlayerState {
-        Created = 1,
-        FileSet = 2,
-        DisplayComp = 4,
-        Playing = 5,
-        Paused = 6,
-        StopRequested = 7,
-        Stopping = 8,
-        EsDeleting = 9,
-        Stopped = 10,
-    };
-    enum StopReason {
-        StopGoNext = 0,
-        StopShowLogo = 2,
-        StopPlain = 3,
-        StopFileRemoved = 4,
-        StopGoBack = 5,
-    };
-    static constexpr int kMaxChannels = ChannelPlayers::kMaxChannels;
-
-    // Shared with the coordinator, the file list and the panels.
-    static int channelCount;
-    static int playerState;
-    static int esDeletePending;
-    static int stopReason;
+    // The channels' video windows (the scenes), set by the coordinator.
     static QWidget* videoWidgets[kMaxChannels];
 
     explicit VLCComponent(QObject* parent = nullptr);

@@ -1,0 +1,25 @@
+#include "PlaybackState.h"
+
+QString PlaybackState::currentFile;
+int PlaybackState::playStatus = PlaybackState::PlayIdle;
+double PlaybackState::currentTime = 0;
+double PlaybackState::currentPosition = 0;
+double PlaybackState::totalTime = 0;
+int PlaybackState::playChannelCount = 0;
+bool PlaybackState::flipState[3] = {false, false, false};
+int PlaybackState::volume = 100;
+int PlaybackState::speedIndex = 2;
+bool PlaybackState::muted = false;
+bool PlaybackState::stopRequested = false;
+bool PlaybackState::playRequested = false;
+bool PlaybackState::firstOpenDone = false;
+bool PlaybackState::telemetryPresent = false;
+bool PlaybackState::gpsPresent = false;
+QList<GpsPoint> PlaybackState::gpsList;
+QList<GSensorPoint> PlaybackState::gSensorList;
+QString PlaybackState::speedText = "0";
+QString PlaybackState::latitudeText = "00.00000";
+QString PlaybackState::longitudeText = "00.00000";
+QString PlaybackState::gSensorXText = "0.000";
+QString PlaybackState::gSensorYText = "0.000";
+QString PlaybackState::gSensorZText = "0.000";
