@@ -279,7 +279,7 @@ void MainWindow::connectViews() {
     connect(m_player, &PlayerInterface::onSendShowWindow, this, &MainWindow::onShowPlayWindow);
     if (enabled("fileList")) {
         connect(m_fileList, &TavFileListItem::doubleClickedItem, m_player,
-                &PlayerInterface::checkFileReady);
+                qOverload<const QString&>(&PlayerInterface::checkFileReady));
         connect(m_fileList, &TavFileListItem::onSendStop, m_player, &PlayerInterface::onStop);
         connect(m_fileList, &TavFileListItem::onSendLogoSet, this, &MainWindow::onShowLogo);
         connect(m_fileList, &TavFileListItem::onSetBlockEvent, this, &MainWindow::onBlockEvent);
@@ -374,7 +374,8 @@ void MainWindow::connectViews() {
 void MainWindow::connectControlView() {
     PlayerInterface* player = m_player;
     PlayControlView* control = m_control;
-    connect(control, &PlayControlView::onSendOpenFile, player, &PlayerInterface::checkFileReady);
+    connect(control, &PlayControlView::onSendOpenFile, player,
+            qOverload<>(&PlayerInterface::checkFileReady));
     connect(control, &PlayControlView::onSendPlay, player, &PlayerInterface::onPlay);
     connect(control, &PlayControlView::onClickedPause, player, &PlayerInterface::onPause);
     connect(control, &PlayControlView::onClickedStop, player, &PlayerInterface::onClickStop);

@@ -9,7 +9,7 @@
 #include "ChartTrace.h"
 #include "ChartView.h"
 #include "MapView.h"
-#include "PlayerInterface.h"
+#include "PlaybackState.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -47,21 +47,21 @@ template <typename Work> double medianMs(Work work) {
 
 // A drive's G-sensor: small vibration around 0, 0, 1 g, and a braking now and then.
 void fillTelemetry() {
-    PlayerInterface::gSensorList.clear();
-    PlayerInterface::gpsList.clear();
+    PlaybackState::gSensorList.clear();
+    PlaybackState::gpsList.clear();
     for (int k = 0; k <= kSamples + 1; ++k) {
         const double t = k / 10.0;
         const double braking = std::fmod(t, 300.0) < 3.0 ? -1.1 : 0.0;
-        PlayerInterface::gSensorList.append({k, float(0.03 * std::sin(t * 7.1) + braking),
+        PlaybackState::gSensorList.append({k, float(0.03 * std::sin(t * 7.1) + braking),
                                              float(0.04 * std::sin(t * 3.3)),
                                              float(1.0 + 0.05 * std::sin(t * 11.7))});
-        PlayerInterface::gpsList.append({k, float(37.4 + t * 1e-5), float(127.1 + t * 1e-5),
+        PlaybackState::gpsList.append({k, float(37.4 + t * 1e-5), float(127.1 + t * 1e-5),
                                          float(40 + 20 * std::sin(t / 60)), 0, 0});
     }
-    PlayerInterface::telemetryPresent = true;
-    PlayerInterface::playStatus = PlayerInterface::PlayRunning;
-    PlayerInterface::totalTime = kSamples * 100.0;
-    PlayerInterface::currentTime = PlayerInterface::totalTime / 3;
+    PlaybackState::telemetryPresent = true;
+    PlaybackState::playStatus = PlaybackState::PlayRunning;
+    PlaybackState::totalTime = kSamples * 100.0;
+    PlaybackState::currentTime = PlaybackState::totalTime / 3;
 }
 
 } // namespace
@@ -92,7 +92,7 @@ int main(int argc, char** argv) {
         }
     });
     QVector<double> values[3];
-    for (const GSensorPoint& point : PlayerInterface::gSensorList) {
+    for (const GSensorPoint& point : PlaybackState::gSensorList) {
         values[0].append(point.x);
         values[1].append(point.y);
         values[2].append(point.z);
@@ -131,18 +131,18 @@ int main(int argc, char** argv) {
     int sent = 0;
     QObject::connect(&map, &MapView::scriptSent, [&sent] { ++sent; });
     const double tickMs = medianMs([&](int run) {
-        PlayerInterface::currentTime = PlayerInterface::totalTime * (run + 1) / (kRuns + 2);
+        PlaybackState::currentTime = PlaybackState::totalTime * (run + 1) / (kRuns + 2);
         map.onUpdateMap();
     });
     const double formatMs = medianMs([&](int run) {
-        const GpsPoint& point = PlayerInterface::gpsList.at(run * 100);
+        const GpsPoint& point = PlaybackState::gpsList.at(run * 100);
         const QString script = QStringLiteral("setLatLng(%1, %2, %3, false)")
                                    .arg(QString::number(point.latitude, 'f', 5),
                                         QString::number(point.longitude, 'f', 5),
                                         QString::number(point.speed, 'g', 6));
         Q_UNUSED(script);
     });
-    std::printf("Map, %d points\n", PlayerInterface::gpsList.size());
+    std::printf("Map, %d points\n", PlaybackState::gpsList.size());
     std::printf("  one onUpdateMap tick                %7.3f ms   (%d ticks sent %d scripts)\n",
                 tickMs, kRuns, sent);
     std::printf("  baseline: formatting its script     %7.3f ms\n", formatMs);

@@ -8,7 +8,7 @@
 #include "AppGlobals.h"
 #include "BenchMedia.h"
 #include "FfmpegRunner.h"
-#include "PlayerInterface.h"
+#include "PlaybackState.h"
 #include "SaveAsView.h"
 #include "TavPrompt.h"
 #include "VideoExportPlan.h"
@@ -71,7 +71,7 @@ WindowRun throughTheWindow(const QString& folder) {
 
 // The dialog's runner without the dialog.
 double runnerAlone(const QString& program, const QString& folder) {
-    const VideoExportPlan plan(PlayerInterface::currentFile, 3, {0, 1, 2}, "mp4", folder);
+    const VideoExportPlan plan(PlaybackState::currentFile, 3, {0, 1, 2}, "mp4", folder);
     FfmpegRunner runner;
     QEventLoop loop;
     QObject::connect(&runner, &FfmpegRunner::finished, &loop, &QEventLoop::quit);
@@ -90,7 +90,7 @@ QString outputFolder() {
 
 // The same commands, one after the other, waited for.
 double ffmpegAlone(const QString& program, const QString& folder) {
-    const VideoExportPlan plan(PlayerInterface::currentFile, 3, {0, 1, 2}, "mp4", folder);
+    const VideoExportPlan plan(PlaybackState::currentFile, 3, {0, 1, 2}, "mp4", folder);
     QElapsedTimer timer;
     timer.start();
     for (const VideoExportRun& run : plan.runs()) {
@@ -109,9 +109,9 @@ int main(int argc, char** argv) {
     BenchMedia::useScratchDataFolder();
     if (!BenchMedia::prepare(QStringLiteral("export")))
         return 1;
-    PlayerInterface::currentFile =
+    PlaybackState::currentFile =
         BenchMedia::folder(QStringLiteral("export")) + "/20240612_120000_INF_1.mp4";
-    PlayerInterface::playChannelCount = 3;
+    PlaybackState::playChannelCount = 3;
     const QString program = VideoExportPlan::program(QCoreApplication::applicationDirPath());
     if (program.isEmpty()) {
         std::fprintf(stderr, "no ffmpeg\n");

@@ -98,6 +98,11 @@ void PlayerInterface::waitForEngineStopped() {
 
 // ---- Opening ----
 
+void PlayerInterface::checkFileReady(const QString& file) {
+    currentFile = file;
+    checkFileReady();
+}
+
 void PlayerInterface::checkFileReady() {
     logDebug("PlayerInterface::checkFileReady");
     const int state = VLCComponent::playerState;
@@ -150,20 +155,18 @@ void PlayerInterface::onOpenFile() {
 }
 
 void PlayerInterface::readTelemetry() {
-    // Frame fields, as 32-bit words of the text frame.
-    constexpr int kX = 10, kY = 11, kZ = 12, kFlags = 13, kSpeed = 14, kLat = 15, kLon = 16;
-
     m_telemetry->KDX_GetTextData(nullptr, 0);
     const int count = m_telemetry->KDX_GetTextDataTotalCount();
     for (int i = 0; i < count; ++i) {
-        const float* frame = m_telemetry->KDX_GetTextDataFrame(i);
-        if (frame == nullptr)
+        const float* buffer = m_telemetry->KDX_GetTextDataFrame(i);
+        if (buffer == nullptr)
             continue;
-        uint32_t flags = 0;
-        std::memcpy(&flags, frame + kFlags, sizeof flags);
-        gSensorList.append({i, frame[kX], frame[kY], frame[kZ]});
-        gpsList.append(
-            {i, frame[kLat], frame[kLon], frame[kSpeed], int(flags & 3u), int((flags >> 2) & 3u)});
+        // The frame as the stream library lays it out; copied, as the buffer is plain bytes.
+        KDXTextFrame frame;
+        std::memcpy(&frame, buffer, sizeof frame);
+        gSensorList.append({i, frame.gSensorX, frame.gSensorY, frame.gSensorZ});
+        gpsList.append({i, frame.latitude, frame.longitude, frame.speed,
+                        int(frame.gpsFlags & 3u), int((frame.gpsFlags >> 2) & 3u)});
     }
     if (!gSensorList.isEmpty() && !gpsList.isEmpty()) {
         gpsPresent = true;
@@ -321,12 +324,6 @@ void PlayerInterface::onClearData() {
     currentTime = 0;
     totalTime = 0;
     playChannelCount = 0;
-    speedText = "0";
-    latitudeText = "00.00000";
-    longitudeText = "00.00000";
-    gSensorXText = "0.000";
-    gSensorYText = "0.000";
-    gSensorZText = "0.000";
 }
 
 void PlayerInterface::onClearFileInfo() {

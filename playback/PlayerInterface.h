@@ -60,7 +60,10 @@ signals:
     void onSendZoomReset();
 
 public slots:
+    // Opens the current recording again, or the one of this file, once the engine can take
+    // it.
     void checkFileReady();
+    void checkFileReady(const QString& file);
     void onCheckSetReady();
     void onOpenFile();
     void onPlay();

@@ -301,16 +301,12 @@ void TavFileListItem::playItem(int index, bool tell) {
         return;
     }
     currentIndex = index;
-    PlaybackState::currentFile = records.at(index).filePath;
     m_position = visibleRows.indexOf(records.at(index).row);
     selectRow(index);
     setCurrentCell(index, NameColumn, QItemSelectionModel::NoUpdate);
     scrollToItem(item(index, NameColumn), QAbstractItemView::EnsureVisible);
     emit onSendHideTypeList();
-    emit doubleClickedItem();
-    emit onPlayFileNow();
-    emit onSendLoadMap();
-    emit onSendUpdateMap();
+    emit doubleClickedItem(records.at(index).filePath);
     scheduleThumbnails();
     logInfo("Play item set complete!");
 }
@@ -397,7 +393,6 @@ void TavFileListItem::resetList() {
     visibleRows.clear();
     resetPressState();
     m_thumbRequested.clear();
-    PlaybackState::currentFile.clear();
     emit onSendLogoSet(true);
     emit onSetBlockEvent(false);
 }

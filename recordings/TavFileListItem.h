@@ -29,9 +29,10 @@ class TypeIconDelegate;
 // row removes it from the list or, with all its files, from the disk. FileListLoader does
 // the loading and FileListRemover the deleting.
 //
-// Choosing a row to play sets PlaybackState::currentFile and currentIndex, selects and
-// shows the row and emits doubleClickedItem(), which the main window connects to the
-// coordinator's checkFileReady().
+// Choosing a row to play sets currentIndex, selects and shows the row and emits
+// doubleClickedItem() with the row's file, which the main window connects to the
+// coordinator's checkFileReady(); what plays is the coordinator's to say
+// (PlaybackState::currentFile).
 //
 // Lengths are read by pool threads after a many-file load and arrive in chunks, with the
 // video tracks that count a one-file recording's cameras; a progress bar in the list's
@@ -71,18 +72,16 @@ public:
     static int typeBit(const QString& letter);
 
 signals:
-    void doubleClickedItem();
+    // The recording the user (or playback moving on) chose to play: its front file.
+    void doubleClickedItem(const QString& file);
     void onSendPause();
     void onSendStop(int type);
     void onSendHideTypeList();
-    void onSendLoadMap();
-    void onSendUpdateMap();
     void onSendClear();
     void onSendRefreshFilter();
     void onSendThreadStop();
     void onSendLogoSet(bool show);
     void onSetBlockEvent(bool block);
-    void onPlayFileNow();
     void onSendFinishReadFileTime();
     // Lengths read so far of the current load; done == total when finished.
     void onSendReadProgress(int done, int total);

@@ -83,6 +83,13 @@ class TestFileList : public QObject {
         return paths;
     }
 
+    // The coordinator's part, which these tests leave out: the file of the chosen row is
+    // what plays.
+    static void follow(TavFileListItem& list) {
+        QObject::connect(&list, &TavFileListItem::doubleClickedItem,
+                         [](const QString& file) { PlaybackState::currentFile = file; });
+    }
+
     QStringList shownNames(const TavFileListItem& list) const {
         QStringList names;
         for (int row = 0; row < list.rowCount(); ++row)
@@ -396,6 +403,7 @@ private slots:
         const QStringList parked = channels("deleting", "20240612_100000_PRK", {1, 2});
         const QStringList kept = channels("deleting", "20240612_110000_EVT", {1, 2});
         TavFileListItem list;
+        follow(list);
         list.loadPaths({m_dir.filePath("deleting")});
         list.show();
         QCOMPARE(list.rowCount(), 3);
@@ -431,6 +439,7 @@ private slots:
 
     void typeMaskSteersNextAndPrevious() {
         TavFileListItem list;
+        follow(list);
         const QStringList paths = morning();
         list.loadPaths(paths);
         QSignalSpy chosen(&list, &TavFileListItem::doubleClickedItem);
@@ -494,6 +503,7 @@ private slots:
 
     void deleteAtListAsksFirst() {
         TavFileListItem list;
+        follow(list);
         const QStringList paths = morning();
         list.loadPaths(paths);
         list.show();
@@ -533,6 +543,7 @@ private slots:
 
     void doubleClickAndEnterHandOverTheRowsFile() {
         TavFileListItem list;
+        follow(list);
         QStringList paths = morning();
         // The first recording is loaded by its third camera's file: it plays from its front.
         list.loadPaths(QStringList{QString(paths.at(0)).replace("_1.mp4", "_3.mp4")} +
@@ -683,6 +694,7 @@ private slots:
             broken("20240501_100200_INF_1.mp4", recording.left(recording.size() / 2)),
             touch("20240501_100300_INF_1.mp4", "broken")};
         TavFileListItem list;
+        follow(list);
         list.resize(300, 300);
         list.show();
         QVERIFY(QTest::qWaitForWindowExposed(&list));

@@ -545,7 +545,9 @@ private slots:
         ROUTE(control, PlayControlView::onSendRefreshImage, self, MainWindow::onGetImage);
         ROUTE(self, MainWindow::onSendSetPause, control, PlayControlView::onSetPause);
         ROUTE(self, MainWindow::onSendStop, player, PlayerInterface::onClickStop);
-        ROUTE(control, PlayControlView::onSendOpenFile, player, PlayerInterface::checkFileReady);
+        if (!QObject::disconnect(control, &PlayControlView::onSendOpenFile, player,
+                                 qOverload<>(&PlayerInterface::checkFileReady)))
+            missing << "control onSendOpenFile -> player checkFileReady()";
         ROUTE(control, PlayControlView::onSendPlay, player, PlayerInterface::onPlay);
         ROUTE(control, PlayControlView::onClickedPause, player, PlayerInterface::onPause);
         ROUTE(control, PlayControlView::onClickedStop, player, PlayerInterface::onClickStop);
@@ -604,7 +606,9 @@ private slots:
               TavFileListItem::onFinishReadFileTime);
         ROUTE(list, TavFileListItem::onSendRefreshFilter, combo, TavFileComboBox::onUpdateList);
         ROUTE(combo, TavFileComboBox::onSendFileTypeFilter, list, TavFileListItem::onSortFile);
-        ROUTE(list, TavFileListItem::doubleClickedItem, player, PlayerInterface::checkFileReady);
+        if (!QObject::disconnect(list, &TavFileListItem::doubleClickedItem, player,
+                                 qOverload<const QString&>(&PlayerInterface::checkFileReady)))
+            missing << "list doubleClickedItem -> player checkFileReady(file)";
         ROUTE(list, TavFileListItem::onSendPause, control, PlayControlView::onSetPause);
         ROUTE(list, TavFileListItem::onSendStop, player, PlayerInterface::onStop);
         ROUTE(list, TavFileListItem::onSendLogoSet, self, MainWindow::onShowLogo);

@@ -32,12 +32,6 @@ public:
     static bool gpsPresent;
     static QList<GpsPoint> gpsList;
     static QList<GSensorPoint> gSensorList;
-    static QString speedText;
-    static QString latitudeText;
-    static QString longitudeText;
-    static QString gSensorXText;
-    static QString gSensorYText;
-    static QString gSensorZText;
 
     // A recording is open in the players, playing or paused.
     static bool hasRecording() { return playStatus == PlayRunning || playStatus == PlayPaused; }

@@ -12,16 +12,6 @@
 
 const char* const ChartView::kAxisColours[3] = {"#ff3a00", "#318dff", "#65ca26"};
 
-namespace {
-
-QString* displayText(int axis) {
-    QString* const texts[3] = {&PlaybackState::gSensorXText, &PlaybackState::gSensorYText,
-                               &PlaybackState::gSensorZText};
-    return texts[axis];
-}
-
-} // namespace
-
 ChartView::ChartView(QWidget* parent)
     : TavWidget("ChartView", parent), m_frame(new QWidget(this)), m_bar(new QWidget(this)) {
     logInfo("[ChartView]: Enter ChartView class.");
@@ -82,7 +72,6 @@ void ChartView::onUpdateChart() {
         if (i > 0 && i < size) {
             for (int axis = 0; axis < 3; ++axis) {
                 const QString text = QString::number(m_series[axis].at(i).y(), 'f', 3);
-                *displayText(axis) = text;
                 m_values[axis]->setText(text);
             }
         }
@@ -92,7 +81,6 @@ void ChartView::onUpdateChart() {
 
 void ChartView::onClearData() {
     logDebug("ChartView::onClearData");
-    PlaybackState::gSensorList.clear();
     for (int axis = 0; axis < 3; ++axis) {
         m_series[axis].clear();
         m_lines[axis].clear();

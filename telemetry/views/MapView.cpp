@@ -176,9 +176,6 @@ void MapView::showPosition(double latitude, double longitude, double speed, bool
         run(QStringLiteral("setLatLng(%1, %2, %3, %4)")
                 .arg(coordinate(latitude), coordinate(longitude), speedText(speed),
                      first ? QStringLiteral("true") : QStringLiteral("false")));
-    PlaybackState::latitudeText = coordinate(latitude);
-    PlaybackState::longitudeText = coordinate(longitude);
-    PlaybackState::speedText = speedText(speed);
 }
 
 QString MapView::routeScript() const {
@@ -195,7 +192,6 @@ QString MapView::routeScript() const {
 
 void MapView::onClearData() {
     logDebug("MapView::onClearData");
-    PlaybackState::gpsList.clear();
     m_points.clear();
     m_lastPosition.clear();
     m_mapLoaded = false;
