@@ -661,7 +661,7 @@ void MainWindow::openPaths(const QStringList& paths) {
     if (paths.isEmpty() || !enabled("fileList"))
         return;
     m_fileList->loadPaths(paths);
-    if (!TavFileListItem::visibleRows.isEmpty())
+    if (!RecordingList::visibleRows.isEmpty())
         m_fileList->onSetFirstFile();
 }
 
@@ -754,7 +754,7 @@ void MainWindow::onCardContentsGone(const QString& root) {
     if (PlayerInterface::currentFile.startsWith(prefix))
         emit onSendStop(true);
     const bool listed = std::any_of(
-        TavFileListItem::records.cbegin(), TavFileListItem::records.cend(),
+        RecordingList::records.cbegin(), RecordingList::records.cend(),
         [&prefix](const RecordingRecord& record) { return record.filePath.startsWith(prefix); });
     if (listed)
         emit onSendClear();

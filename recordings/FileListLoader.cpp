@@ -67,9 +67,7 @@ void FileListLoader::loadFolder(const QString& folder) {
 void FileListLoader::load(const QStringList& paths, const QSet<QString>& listedFolders) {
     logDebug("TavFileListItem::onLoadItem");
     if (m_list.rowCount() == 0) {
-        TavFileListItem::records.clear();
-        TavFileListItem::visibleRows.clear();
-        m_list.m_position = -1;
+        RecordingList::clear();
     }
     if (paths.isEmpty()) {
         logInfo("[TavFileListItem]: no Item.");
@@ -105,7 +103,7 @@ void FileListLoader::load(const QStringList& paths, const QSet<QString>& listedF
 
 bool FileListLoader::isListed(const RecordingRecord& record) {
     const QString key = RecordingBatch::recordingKey(record.filePath);
-    return std::any_of(TavFileListItem::records.cbegin(), TavFileListItem::records.cend(),
+    return std::any_of(RecordingList::records.cbegin(), RecordingList::records.cend(),
                        [&](const RecordingRecord& listed) {
                            return RecordingBatch::recordingKey(listed.filePath) == key;
                        });
@@ -119,24 +117,24 @@ void FileListLoader::append(RecordingRecord record) {
     record.problem = length.problem;
     if (!record.hasChannelFiles())
         record.cameraCount = length.videoCount;
-    TavFileListItem::records.append(record);
+    RecordingList::records.append(record);
     m_list.insertRow(record.row);
     fillRow(record.row, record);
     m_list.markProblem(record.row);
-    m_list.rebuildVisibleRows();
+    RecordingList::rebuildVisibleRows();
 }
 
 void FileListLoader::replaceWith(const QVector<RecordingRecord>& batch) {
     m_list.cancelLengthReader();
-    m_list.m_thumbRequested.clear();
+    m_list.clearThumbnailRequests();
+    RecordingList::records = batch;
     m_list.setUpdatesEnabled(false);
     m_list.clearContents();
     m_list.setRowCount(batch.size());
     for (int i = 0; i < batch.size(); ++i)
         fillRow(i, batch[i]);
     m_list.setUpdatesEnabled(true);
-    TavFileListItem::records = batch;
-    m_list.rebuildVisibleRows();
+    RecordingList::rebuildVisibleRows();
     m_list.startLengthReader();
 }
 
@@ -154,5 +152,5 @@ void FileListLoader::fillRow(int row, const RecordingRecord& record) {
     length->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
     m_list.setItem(row, TavFileListItem::LengthColumn, length);
     // New rows obey the filter in force at once.
-    m_list.setRowHidden(row, !m_list.rowPassesMask(row));
+    m_list.setRowHidden(row, !RecordingList::passes(row));
 }

@@ -21,7 +21,7 @@ QList<int> FileListRemover::selectedRows() const {
     QList<int> rows;
     for (const QModelIndex& index : m_list.selectionModel()->selectedRows())
         // A range selected with Shift may span rows the filter hides; those stay.
-        if (!m_list.isRowHidden(index.row()) && index.row() < TavFileListItem::records.size())
+        if (!m_list.isRowHidden(index.row()) && index.row() < RecordingList::records.size())
             rows << index.row();
     std::sort(rows.begin(), rows.end());
     return rows;
@@ -34,7 +34,7 @@ void FileListRemover::deleteSelected(bool fromDisk) {
         return;
     }
     const bool currentSelected =
-        m_list.hasCurrent() && rows.contains(TavFileListItem::currentIndex);
+        RecordingList::hasCurrent() && rows.contains(RecordingList::currentIndex);
     const int status = PlaybackState::playStatus;
     if (status == PlaybackState::PlayRunning)
         emit m_list.onSendPause();
@@ -50,7 +50,7 @@ void FileListRemover::deleteSelected(bool fromDisk) {
             status != PlaybackState::PlayStopped)
             emit m_list.onSendStop(3);
     } else {
-        if (m_list.m_itemInfo != nullptr && m_list.m_itemInfo->isBusy()) {
+        if (m_list.isReadingThumbnails()) {
             logInfo("[TavFileListItem] Stop Thread");
             emit m_list.onSendThreadStop();
         }
@@ -70,18 +70,18 @@ void FileListRemover::removeRows(QList<int> rows, bool fromDisk) {
     // From the bottom up, so that the rows still to go keep their numbers.
     std::sort(rows.begin(), rows.end(), std::greater<int>());
     for (int row : rows) {
-        const RecordingRecord record = TavFileListItem::records.at(row);
+        const RecordingRecord record = RecordingList::records.at(row);
         if (!fromDisk && !loading.isEmpty() && record.channelFiles.contains(loading)) {
             keptLoading = true;
             continue;
         }
         m_list.removeRow(row);
-        m_list.onRemoveFile(row);
+        RecordingList::records.remove(row);
         // A failed delete still drops the row: the user asked for it to go.
         if (fromDisk)
             left << deleteFiles(record);
     }
-    m_list.onRenumber();
+    RecordingList::renumber();
     if (keptLoading)
         TavPrompt::inform(&m_list,
                           TavFileListItem::tr("This File is loading now.. Please try later"));

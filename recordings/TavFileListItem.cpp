@@ -28,13 +28,8 @@
 
 #include <algorithm>
 
-QVector<RecordingRecord> TavFileListItem::records;
-QVector<int> TavFileListItem::visibleRows;
-int TavFileListItem::currentIndex = 0;
-
 namespace {
 
-constexpr int kAllTypes = 15;
 // A reading that ends sooner than this never shows the progress bar, so short loads do not
 // flicker.
 constexpr int kProgressDelayMs = 300;
@@ -51,6 +46,9 @@ TavFileListItem::TavFileListItem(QWidget* parent)
       m_lengths(new LengthReading(this)), m_loader(new FileListLoader(*this)),
       m_remover(new FileListRemover(*this)) {
     logInfo("[TavFileListItem]: Enter TavFileListItem class.");
+    // The one list of the program starts empty, every type shown.
+    RecordingList::clear();
+    RecordingList::setMask(kAllTypes);
     setColumnCount(ColumnCount);
     setContextMenuPolicy(Qt::CustomContextMenu);
     setAcceptDrops(true);
@@ -132,12 +130,6 @@ void TavFileListItem::onChangeLanguage() {
     m_progress->setFormat(tr("Reading lengths %v / %m"));
 }
 
-int TavFileListItem::typeBit(const QString& letter) {
-    static const QString letters = QStringLiteral("IEPU");
-    const int index = letter.size() == 1 ? letters.indexOf(letter) : -1;
-    return index < 0 ? 0 : 1 << index;
-}
-
 // ---- Loading ----
 
 void TavFileListItem::loadPaths(const QStringList& paths) {
@@ -179,83 +171,17 @@ QString TavFileListItem::thumbnailToolTip(const QString& path) {
 
 // ---- Type filter ----
 
-bool TavFileListItem::rowPassesMask(int row) const {
-    const QTableWidgetItem* type = item(row, TypeColumn);
-    const int bit = typeBit(type != nullptr ? type->text() : QString());
-    // A recording of no known type has no bit; "All Type" still shows it.
-    return bit == 0 ? m_mask == kAllTypes : (m_mask & bit) != 0;
-}
-
-void TavFileListItem::rebuildVisibleRows() {
-    visibleRows.clear();
-    for (int row = 0; row < rowCount() && row < records.size(); ++row)
-        if (!isRowHidden(row))
-            visibleRows.append(records.at(row).row);
-    syncCurrent();
-}
-
 void TavFileListItem::onSortFile(int mask) {
     logDebug("TavFileListItem::onSortFile");
-    m_mask = mask;
-    const bool current = hasCurrent();
-    visibleRows.clear();
-    m_position = -1;
-    for (int row = 0; row < rowCount() && row < records.size(); ++row) {
-        const bool shown = rowPassesMask(row);
-        setRowHidden(row, !shown);
-        if (shown)
-            visibleRows.append(records.at(row).row);
-        if (current && row == currentIndex)
-            m_position = shown ? visibleRows.size() - 1 : -1;
-    }
+    RecordingList::setMask(mask);
+    for (int row = 0; row < rowCount() && row < records.size(); ++row)
+        setRowHidden(row, !passes(row));
     scheduleThumbnails();
 }
 
 // ---- Current recording and stepping ----
 
-bool TavFileListItem::isCurrentRecording(const RecordingRecord& record) {
-    // A row made while a lone rear file played may hand the player its front file now.
-    const QString& file = PlaybackState::currentFile;
-    return !file.isEmpty() && (record.filePath == file || record.channelFiles.contains(file));
-}
-
-bool TavFileListItem::hasCurrent() const {
-    return currentIndex >= 0 && currentIndex < records.size() &&
-           isCurrentRecording(records.at(currentIndex));
-}
-
-void TavFileListItem::syncCurrent() {
-    m_position = -1;
-    int found = -1;
-    for (int i = 0; !PlaybackState::currentFile.isEmpty() && i < records.size(); ++i)
-        if (isCurrentRecording(records.at(i))) {
-            found = i;
-            break;
-        }
-    currentIndex = found >= 0 ? found : 0;
-    if (found >= 0)
-        m_position = visibleRows.indexOf(records.at(found).row);
-}
-
 // With nothing current both directions start at the first shown row.
-int TavFileListItem::nextRow() const {
-    if (!hasCurrent())
-        return visibleRows.isEmpty() ? -1 : visibleRows.first();
-    for (int row : visibleRows)
-        if (row > currentIndex)
-            return row;
-    return -1;
-}
-
-int TavFileListItem::previousRow() const {
-    if (!hasCurrent())
-        return visibleRows.isEmpty() ? -1 : visibleRows.first();
-    for (auto it = visibleRows.crbegin(); it != visibleRows.crend(); ++it)
-        if (*it < currentIndex)
-            return *it;
-    return -1;
-}
-
 void TavFileListItem::markProblem(int row) {
     if (row < 0 || row >= records.size())
         return;
@@ -300,8 +226,7 @@ void TavFileListItem::playItem(int index, bool tell) {
                                         RecordingName::problemText(records.at(index).problem));
         return;
     }
-    currentIndex = index;
-    m_position = visibleRows.indexOf(records.at(index).row);
+    setCurrent(index);
     selectRow(index);
     setCurrentCell(index, NameColumn, QItemSelectionModel::NoUpdate);
     scrollToItem(item(index, NameColumn), QAbstractItemView::EnsureVisible);
@@ -365,6 +290,10 @@ int TavFileListItem::getCanPlayFileCount() {
     return visibleRows.size();
 }
 
+bool TavFileListItem::isReadingThumbnails() const {
+    return m_itemInfo != nullptr && m_itemInfo->isBusy();
+}
+
 QString TavFileListItem::getLoadingFileName() {
     return m_itemInfo != nullptr ? m_itemInfo->currentPath() : QString();
 }
@@ -385,12 +314,9 @@ void TavFileListItem::resetPressState() {
 void TavFileListItem::resetList() {
     emit onSendThreadStop();
     cancelLengthReader();
-    currentIndex = 0;
-    m_position = -1;
     clearContents();
     setRowCount(0);
-    records.clear();
-    visibleRows.clear();
+    RecordingList::clear();
     resetPressState();
     m_thumbRequested.clear();
     emit onSendLogoSet(true);
@@ -402,18 +328,9 @@ void TavFileListItem::onDeleteAllFileAtList() {
     resetList();
 }
 
-void TavFileListItem::onRemoveFile(int row) {
-    const int visible = visibleRows.indexOf(row);
-    if (visible >= 0)
-        visibleRows.remove(visible);
-    if (row >= 0 && row < records.size())
-        records.remove(row);
-}
-
-void TavFileListItem::onRenumber() {
-    for (int i = 0; i < records.size(); ++i)
-        records[i].row = i;
-    rebuildVisibleRows();
+void TavFileListItem::dropRow(int row) {
+    removeRow(row);
+    removeRecord(row);
 }
 
 void TavFileListItem::onDeleteCurrentFile() {
@@ -423,10 +340,7 @@ void TavFileListItem::onDeleteCurrentFile() {
         return;
     }
     emit onSendStop(3);
-    const int row = currentIndex;
-    removeRow(row);
-    onRemoveFile(row);
-    onRenumber();
+    dropRow(RecordingList::currentIndex);
     resetPressState();
     emit onSetBlockEvent(false);
 }
@@ -574,18 +488,10 @@ void TavFileListItem::startLengthReader() {
     m_lengths->start(paths);
 }
 
-int TavFileListItem::recordIndexOf(const QString& path, int hint) const {
-    // Rows deleted during the reading move later records up, never down.
-    for (int i = qMin(hint, records.size() - 1); i >= 0; --i)
-        if (records.at(i).filePath == path)
-            return i;
-    return -1;
-}
-
 void TavFileListItem::onLengthsRead(int first, const QStringList& texts,
                                     const QVector<int>& videoCounts, const QVector<int>& problems) {
     for (int k = 0; k < texts.size() && first + k < m_lengths->total(); ++k) {
-        const int index = recordIndexOf(m_lengths->pathAt(first + k), first + k);
+        const int index = indexOf(m_lengths->pathAt(first + k), first + k);
         if (index < 0)
             continue;
         records[index].durationText = texts.at(k);
@@ -659,7 +565,7 @@ void TavFileListItem::requestThumbnails() {
         }
     };
     if (hasCurrent())
-        ask(currentIndex);
+        ask(RecordingList::currentIndex);
     for (int row = first; row <= last && row < records.size(); ++row)
         ask(row);
     if (jobs.isEmpty())

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "RecordingList.h"
 #include "RecordingRecord.h"
 #include "TavTableWidget.h"
 
@@ -40,17 +41,10 @@ class TypeIconDelegate;
 // ItemInfoThread for the rows on screen, as they come into view.
 class QDropEvent;
 
-class TavFileListItem : public TavTableWidget {
+class TavFileListItem : public TavTableWidget, public RecordingList {
     Q_OBJECT
 public:
     enum Column { TypeColumn = 0, NameColumn = 1, LengthColumn = 2, ColumnCount = 3 };
-
-    // Process-wide, one instance: every listed recording in display order, and the rows
-    // (record row numbers) that the type filter leaves shown, in display order.
-    static QVector<RecordingRecord> records;
-    static QVector<int> visibleRows;
-    // The record being played; 0 after a reset.
-    static int currentIndex;
 
     explicit TavFileListItem(QWidget* parent = nullptr);
     ~TavFileListItem() override;
@@ -63,13 +57,6 @@ public:
     // once the drop has returned.
     void takeDrop(QDropEvent* event);
 
-    // Where the current recording stands among visibleRows; -1 when the filter hides it or
-    // nothing is current.
-    int currentPosition() const { return m_position; }
-    // The type mask last applied by onSortFile (15 at start: every type).
-    int typeMask() const { return m_mask; }
-    // The filter bit of a type letter: "I" 1, "E" 2, "P" 4, "U" 8; 0 for anything else.
-    static int typeBit(const QString& letter);
 
 signals:
     // The recording the user (or playback moving on) chose to play: its front file.
@@ -126,30 +113,29 @@ private slots:
     void onDeleteSelectedAtList();
     void onDeleteSelectedFromDisk();
 
-private:
-    // The loading and the deleting work on the table and the arrays as the list itself does.
-    friend class FileListLoader;
-    friend class FileListRemover;
-
-    void setupUi();
-    void onLoadItem(const QStringList& paths);
-    void onRemoveFile(int row);
-    void onRenumber();
-    void resetList();
-    void resetPressState();
-    // The tool tip of a row whose thumbnail is at path.
+public:
+    // For the loader and the remover, which change the recordings: the rows of the table
+    // follow them.
     // A row whose file cannot be played says so: its texts dimmed red, the reason as its
     // tool tip and "--:--" for its length.
     void markProblem(int row);
+    // The tool tip of a row whose thumbnail is at path.
     static QString thumbnailToolTip(const QString& path);
-    bool rowPassesMask(int row) const;
-    void rebuildVisibleRows();
-    void syncCurrent();
-    bool hasCurrent() const;
-    // Whether the player's current file is one of the record's files.
-    static bool isCurrentRecording(const RecordingRecord& record);
-    int nextRow() const;
-    int previousRow() const;
+    // Takes a record and its table row out of the list.
+    void dropRow(int row);
+    // Thumbnails are asked for anew (a load replaced the rows).
+    void clearThumbnailRequests() { m_thumbRequested.clear(); }
+    void resetList();
+    void resetPressState();
+    void stopItemInfoThread();
+    void startLengthReader();
+    void cancelLengthReader();
+    void scheduleThumbnails();
+    bool isReadingThumbnails() const;
+
+private:
+    void setupUi();
+    void onLoadItem(const QStringList& paths);
     // Plays the row; one whose file cannot be played is not handed on, and the user is told
     // why when tell is set.
     void playItem(int index, bool tell = true);
@@ -157,24 +143,17 @@ private:
     bool isPlayable(int index);
     // A row chosen by double click or Enter: stops what plays, then plays the row.
     void chooseRow(int row);
-    void stopItemInfoThread();
-    void startLengthReader();
-    void cancelLengthReader();
     void onLengthsRead(int first, const QStringList& texts, const QVector<int>& videoCounts,
                        const QVector<int>& problems);
     // A one-file recording's cameras are its video tracks, known with its length.
     void setVideoCount(int index, int videoCount);
     void onLengthsFinished(qint64 elapsedMs);
-    int recordIndexOf(const QString& path, int hint) const;
-    void scheduleThumbnails();
     void requestThumbnails();
     void showProgress(bool show);
 
     bool m_controlHeld = false;
     bool m_shiftHeld = false;
     bool m_blocked = false;
-    int m_position = -1;
-    int m_mask = 15;
     QMenu* m_menu = nullptr;
     QAction* m_deleteAtList = nullptr;
     QAction* m_deleteFromDisk = nullptr;

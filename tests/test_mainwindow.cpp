@@ -468,10 +468,10 @@ private slots:
             paths << file.fileName();
         }
         emit m_window->onSendFileList(paths);
-        QTRY_COMPARE(TavFileListItem::records.size(), 4);
+        QTRY_COMPARE(RecordingList::records.size(), 4);
         auto* list = m_window->findChild<TavTypeList*>();
         QTest::mouseClick(child<TavTypeButton>("bParking"), Qt::LeftButton);
-        QCOMPARE(TavFileListItem::visibleRows, QVector<int>{2});
+        QCOMPARE(RecordingList::visibleRows, QVector<int>{2});
         QCOMPARE(child<QLabel>("textState")->text(), QString("  Filter"));
         QCOMPARE(list->mask(), 4);
         QVERIFY(child<TavTypeButton>("bParking")->isChecked());
@@ -479,16 +479,16 @@ private slots:
         QTest::mouseClick(child<TavTypeButton>("bParking"), Qt::LeftButton); // stays chosen
         QVERIFY(child<TavTypeButton>("bParking")->isChecked());
         QTest::mouseClick(child<TavTypeButton>("bAllType"), Qt::LeftButton);
-        QCOMPARE(TavFileListItem::visibleRows.size(), 4);
+        QCOMPARE(RecordingList::visibleRows.size(), 4);
         QCOMPARE(child<QLabel>("textState")->text(), QString("  All Type"));
         QCOMPARE(list->mask(), 15);
         // A choice in the pop-up that no button stands for leaves none of them chosen.
         list->toggle(8)->click();
-        QCOMPARE(TavFileListItem::visibleRows.size(), 3);
+        QCOMPARE(RecordingList::visibleRows.size(), 3);
         for (const char* name : {"bAllType", "bInfinity", "bParking", "bEvent"})
             QVERIFY2(!child<TavTypeButton>(name)->isChecked(), name);
         emit m_window->onSendClear();
-        QVERIFY(TavFileListItem::records.isEmpty());
+        QVERIFY(RecordingList::records.isEmpty());
         list->toggle(8)->click();
     }
 

@@ -162,10 +162,10 @@ private slots:
     void commandLineFolderPlaysTheFirstRecording() {
         m_window->openPaths({kMedia});
         // One row per recording; a one-file recording's count comes with its length.
-        QCOMPARE(TavFileListItem::records.size(), 3);
-        QTRY_COMPARE_WITH_TIMEOUT(TavFileListItem::records.at(2).cameraCount, 3, 10000);
-        QCOMPARE(TavFileListItem::records.at(0).cameraCount, 3);
-        QCOMPARE(TavFileListItem::records.at(1).cameraCount, 2);
+        QCOMPARE(RecordingList::records.size(), 3);
+        QTRY_COMPARE_WITH_TIMEOUT(RecordingList::records.at(2).cameraCount, 3, 10000);
+        QCOMPARE(RecordingList::records.at(0).cameraCount, 3);
+        QCOMPARE(RecordingList::records.at(1).cameraCount, 2);
         QCOMPARE(m_list->item(1, TavFileListItem::NameColumn)->text(),
                  QString("20240301_091000_EVT"));
         QVERIFY(PlayerInterface::currentFile.endsWith("20240301_090000_INF_1.mp4"));
@@ -410,15 +410,15 @@ private slots:
     }
 
     void deletingThePlayingRowStopsIt() {
-        const int rows = TavFileListItem::records.size();
+        const int rows = RecordingList::records.size();
         m_list->onDeleteCurrentFile();
         QTRY_COMPARE_WITH_TIMEOUT(VLCComponent::playerState, int(VLCComponent::Stopped), 10000);
         QVERIFY(PlayerInterface::playStatus != PlayerInterface::PlayRunning);
         // The panel is cleared.
         QCOMPARE(m_window->findChild<QLabel*>("playTime")->text(), QString("00:00"));
         QCOMPARE(m_window->findChild<TavPlaySlider*>("playBar")->maximum(), 0);
-        QCOMPARE(TavFileListItem::records.size(), rows - 1);
-        for (const auto& record : TavFileListItem::records)
+        QCOMPARE(RecordingList::records.size(), rows - 1);
+        for (const auto& record : RecordingList::records)
             QVERIFY(!record.fileName.contains("091000_EVT"));
         QVERIFY(QFile::exists(kMedia + "/20240301_091000_EVT_1.mp4")); // only off the list
         QVERIFY(QFile::exists(kMedia + "/20240301_091000_EVT_3.mp4"));
@@ -428,8 +428,8 @@ private slots:
         // Tracks of one file, each in its own scene, chosen by a double click.
         m_list->onSortFile(15);
         int row = -1;
-        for (int i = 0; i < TavFileListItem::records.size(); ++i) {
-            if (TavFileListItem::records.at(i).filePath.endsWith("USR_4.mp4"))
+        for (int i = 0; i < RecordingList::records.size(); ++i) {
+            if (RecordingList::records.at(i).filePath.endsWith("USR_4.mp4"))
                 row = i;
         }
         QVERIFY(row >= 0);
@@ -490,11 +490,11 @@ private slots:
         QVERIFY(PlayerInterface::playStatus != PlayerInterface::PlayRunning);
         QTRY_VERIFY(m_window->findChild<QWidget*>("WaitPlayLogo")->isVisible());
         QCOMPARE(m_window->findChild<TopBar*>()->fileName(), QString());
-        QTRY_COMPARE(TavFileListItem::records.size(), 2);
+        QTRY_COMPARE(RecordingList::records.size(), 2);
         // Still listed once the player's checks (every 500 ms) have had their turn.
         QTest::qWait(1200);
-        QCOMPARE(TavFileListItem::records.size(), 2);
-        QVERIFY(TavFileListItem::records.at(1).filePath.endsWith("/Normal/20240301_092000_USR_4.mp4"));
+        QCOMPARE(RecordingList::records.size(), 2);
+        QVERIFY(RecordingList::records.at(1).filePath.endsWith("/Normal/20240301_092000_USR_4.mp4"));
         QCOMPARE(VLCComponent::playerState, int(VLCComponent::Stopped));
         // And they play from the card.
         const QPoint cell = m_list->visualItemRect(m_list->item(0, 1)).center();

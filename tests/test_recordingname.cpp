@@ -4,7 +4,9 @@
 #include "ChannelFiles.h"
 #include "ContainerClock.h"
 #include "NameSchemes.h"
+#include "PlaybackState.h"
 #include "RecordingBatch.h"
+#include "RecordingList.h"
 #include "RecordingName.h"
 #include "RecordingRecord.h"
 
@@ -254,6 +256,68 @@ private slots:
             RecordingName::durationText(QStringLiteral(TELEMETRY_MEDIA "/") + name);
         QCOMPARE(result, text);
         QCOMPARE(result.isNull(), text.isEmpty());
+    }
+
+    // The list's recordings without a window: the type filter, the current recording and
+    // the rows around it, removals.
+    void recordingListFiltersAndSteps() {
+        RecordingList::clear();
+        RecordingList::setMask(RecordingList::kAllTypes);
+        const char* const names[] = {"20240101_080000_INF_1.mp4", "20240101_080100_EVT_1.mp4",
+                                     "20240101_080200_PRK_1.mp4", "20240101_080300_USR_1.mp4",
+                                     "20240101_080400_PRK_1.mp4", "20240101_080500_INF_1.mp4"};
+        for (const char* name : names)
+            RecordingList::records.append(RecordingRecord::fromPath(
+                QStringLiteral("/cards/Normal/") + name, RecordingList::records.size()));
+        RecordingList::rebuildVisibleRows();
+        QCOMPARE(RecordingList::visibleRows, (QVector<int>{0, 1, 2, 3, 4, 5}));
+
+        RecordingList::setMask(1 | 2 | 8); // no Parking
+        QCOMPARE(RecordingList::visibleRows, (QVector<int>{0, 1, 3, 5}));
+        QVERIFY(!RecordingList::passes(2) && RecordingList::passes(3));
+        // Nothing plays: both ways start at the first shown row.
+        PlaybackState::currentFile.clear();
+        QCOMPARE(RecordingList::nextRow(), 0);
+        QCOMPARE(RecordingList::previousRow(), 0);
+
+        // The player's file makes its row current; the hidden rows are stepped over.
+        PlaybackState::currentFile = RecordingList::records.at(1).filePath;
+        RecordingList::syncCurrent();
+        QCOMPARE(RecordingList::currentIndex, 1);
+        QCOMPARE(RecordingList::currentPosition(), 1);
+        QCOMPARE(RecordingList::nextRow(), 3);
+        QCOMPARE(RecordingList::previousRow(), 0);
+        RecordingList::setCurrent(5);
+        PlaybackState::currentFile = RecordingList::records.at(5).filePath;
+        QCOMPARE(RecordingList::nextRow(), -1);
+        QCOMPARE(RecordingList::previousRow(), 3);
+
+        // The playing row hidden by the filter: no position, stepping goes on from it.
+        PlaybackState::currentFile = RecordingList::records.at(2).filePath;
+        RecordingList::setMask(1 | 2 | 8);
+        QCOMPARE(RecordingList::currentIndex, 2);
+        QCOMPARE(RecordingList::currentPosition(), -1);
+        QCOMPARE(RecordingList::nextRow(), 3);
+        RecordingList::setMask(0);
+        QVERIFY(RecordingList::visibleRows.isEmpty());
+        QCOMPARE(RecordingList::nextRow(), -1);
+
+        // A removal numbers the rest anew; the current recording is found again by its file.
+        RecordingList::setMask(RecordingList::kAllTypes);
+        RecordingList::removeRecord(0);
+        QCOMPARE(RecordingList::records.size(), 5);
+        QCOMPARE(RecordingList::records.at(0).row, 0);
+        QCOMPARE(RecordingList::currentIndex, 1);
+        QCOMPARE(RecordingList::indexOf(RecordingList::records.at(3).filePath, 4), 3);
+        QCOMPARE(RecordingList::indexOf(RecordingList::records.at(3).filePath, 2), -1);
+        // A recording of no known type shows only with every type chosen.
+        RecordingList::records[4].type = 0;
+        RecordingList::setMask(1 | 2 | 4 | 8);
+        QVERIFY(RecordingList::passes(4));
+        RecordingList::setMask(1 | 2 | 4);
+        QVERIFY(!RecordingList::passes(4));
+        RecordingList::clear();
+        PlaybackState::currentFile.clear();
     }
 };
 
