@@ -4,18 +4,14 @@
 #include "AppGlobals.h"
 #include "CardSession.h"
 #include "ChartView.h"
-#include "ConfigAccess.h"
-#include "EngineState.h"
+#include "ExportSession.h"
 #include "LanguageView.h"
 #include "LeftSideView.h"
 #include "MapView.h"
 #include "PlayControlView.h"
 #include "PlayScreenWindow.h"
 #include "PlayerInterface.h"
-#include "PrintChannelSelectView.h"
-#include "ReportScene.h"
 #include "RightSideView.h"
-#include "SaveAsView.h"
 #include "ServiceSession.h"
 #include "SettingOptProgram.h"
 #include "StatusLog.h"
@@ -23,7 +19,6 @@
 #include "SubSceneBackWidget.h"
 #include "TavFileComboBox.h"
 #include "TavFileListItem.h"
-#include "TavPrompt.h"
 #include "TavShortcutTable.h"
 #include "TavTypeButton.h"
 #include "TavTypeList.h"
@@ -231,6 +226,8 @@ void MainWindow::setupUi() {
     m_player->setSub1Screen(m_subPlayers[0]->scene());
     m_player->setSub2Screen(m_subPlayers[1]->scene());
     m_card = new CardSession(this);
+    m_export = new ExportSession(this, m_player, enabled("MapView") && enabled("bMap") ? m_map
+                                                                                       : nullptr);
 
     m_central->retranslate();
     QMetaObject::connectSlotsByName(this);
@@ -277,6 +274,8 @@ void MainWindow::connectViews() {
     connect(m_service, &ServiceSession::onSendQuitForUpdate, qApp, &QCoreApplication::quit,
             Qt::QueuedConnection);
     connect(m_player, &PlayerInterface::onSendShowWindow, this, &MainWindow::onShowPlayWindow);
+    connect(m_export, &ExportSession::onSendShowMap, this, &MainWindow::onRaiseMap);
+    connect(m_export, &ExportSession::onSendShowList, this, &MainWindow::onShowFilelist);
     if (enabled("fileList")) {
         connect(m_fileList, &TavFileListItem::doubleClickedItem, m_player,
                 qOverload<const QString&>(&PlayerInterface::checkFileReady));
@@ -402,6 +401,8 @@ void MainWindow::connectControlView() {
     connect(player, &PlayerInterface::onSendClear, control, &PlayControlView::onSendClear);
     connect(this, &MainWindow::onSendClear, control, &PlayControlView::onSendClear);
     connect(this, &MainWindow::onSendSetPause, control, &PlayControlView::onSetPause);
+    connect(m_export, &ExportSession::onSendSetPause, this, &MainWindow::onSendSetPause);
+    connect(m_export, &ExportSession::onSendResume, control, &PlayControlView::onClick_bPlay);
     connect(player, &PlayerInterface::onSendPlayNextFile, control,
             &PlayControlView::onRecvPlayNextFile);
     connect(player, &PlayerInterface::onSendPlayPreviusFile, control,
@@ -562,83 +563,12 @@ void MainWindow::onChangeSceneView(int id) {
     emit onSendZoomReset();
 }
 
-bool MainWindow::hasRecording() const {
-    return PlayerInterface::playStatus == PlayerInterface::PlayRunning ||
-           PlayerInterface::playStatus == PlayerInterface::PlayPaused;
-}
-
-bool MainWindow::pauseForDialog() {
-    if (PlayerInterface::playStatus != PlayerInterface::PlayRunning)
-        return false;
-    emit onSendSetPause();
-    return true;
-}
-
-void MainWindow::resumeAfterDialog(bool paused, const QString& file) {
-    if (paused && PlayerInterface::playStatus == PlayerInterface::PlayPaused &&
-        PlayerInterface::currentFile == file)
-        m_control->onClick_bPlay();
-}
-
 void MainWindow::onGetImage() {
-    logDebug("MainWindow::onGetImage");
-    if (!hasRecording())
-        return;
-    const QString file = PlayerInterface::currentFile;
-    const bool paused = pauseForDialog();
-    SaveAsView dialog(this);
-    for (int channel = 0;
-         channel < PlayerInterface::playChannelCount && channel < EngineState::kMaxChannels;
-         ++channel)
-        dialog.setImage(channel, m_player->getScreenImage(channel));
-    dialog.setPosition(m_player->position());
-    dialog.move(geometry().center() - dialog.rect().center());
-    dialog.exec();
-    resumeAfterDialog(paused, file);
+    m_export->openCaptureDialog();
 }
 
 void MainWindow::openPrintDlg() {
-    logDebug("MainWindow::openPrintDlg");
-    if (!hasRecording()) {
-        TavPrompt::inform(this, tr("Play a recording to print its report."));
-        return;
-    }
-    const bool paused = pauseForDialog();
-    if (!PlayerInterface::gpsPresent || !enabled("MapView") || !enabled("bMap")) {
-        showPrintDialogs(paused, QImage());
-        return;
-    }
-    // The report takes the map drawn for paper. A map hidden behind the list is shown for
-    // that moment (a web view draws only while it shows), and the list comes back after.
-    const bool listShown = !m_mapButton->isChecked();
-    if (listShown)
-        onRaiseMap();
-    m_map->setPaper(true);
-    QTimer::singleShot(kMapDrawMs, this, [this, paused, listShown] {
-        const QImage map = m_map->currentPicture();
-        m_map->setPaper(false);
-        if (listShown)
-            onShowFilelist();
-        showPrintDialogs(paused, map);
-    });
-}
-
-void MainWindow::showPrintDialogs(bool paused, const QImage& map) {
-    if (!hasRecording())
-        return;
-    const QString file = PlayerInterface::currentFile;
-    // The model of the card last opened; empty when the recording came from elsewhere.
-    ReportScene scene = ReportScene::fromPlayback(ConfigAccess::modelText, AppGlobals::speedUnit);
-    scene.mapImage = map;
-    PrintChannelSelectView dialog(this);
-    dialog.setScene(scene);
-    for (int channel = 0;
-         channel < PlayerInterface::playChannelCount && channel < EngineState::kMaxChannels;
-         ++channel)
-        dialog.setImage(channel, m_player->getScreenImage(channel));
-    dialog.move(geometry().center() - dialog.rect().center());
-    dialog.exec();
-    resumeAfterDialog(paused, file);
+    m_export->openReport(m_mapButton->isChecked());
 }
 
 void MainWindow::restoreScenes() {
@@ -763,7 +693,7 @@ void MainWindow::onCardContentsGone(const QString& root) {
 void MainWindow::onCardFiles(const QStringList& paths) {
     logDebug("MainWindow::onCardFiles");
     // The card's recordings take the list's place: what plays from the old list stops first.
-    if (hasRecording())
+    if (PlaybackState::hasRecording())
         emit onSendStop(true);
     emit onSendFileList(paths);
 }

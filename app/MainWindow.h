@@ -6,6 +6,7 @@
 
 class ChartView;
 class CardSession;
+class ExportSession;
 class LeftSideView;
 class MapView;
 class PlayControlView;
@@ -36,8 +37,6 @@ class MainWindow : public QMainWindow {
 public:
     static constexpr int kInitialWidth = 1366;
     static constexpr int kInitialHeight = 768;
-    // How long a map that was hidden gets to draw before the report takes its picture.
-    static constexpr int kMapDrawMs = 600;
 
     explicit MainWindow(QWidget* parent = nullptr);
     ~MainWindow() override;
@@ -128,13 +127,6 @@ private:
     void connectTelemetryViews();
     void makeShortcuts();
     void saveSettings();
-    // A recording is open in the players (playing or paused).
-    bool hasRecording() const;
-    // Dialogs about the current picture hold playback while they are open; true when this
-    // one paused it, so that it plays on afterwards.
-    bool pauseForDialog();
-    void resumeAfterDialog(bool paused, const QString& file);
-    void showPrintDialogs(bool paused, const QImage& map);
     void removeDataFolderLeftovers();
     // Connects a row of the wiring only when both ends are built and enabled.
     bool enabled(const char* entry) const;
@@ -161,6 +153,7 @@ private:
     TavTypeButton* m_typeButtons[4] = {nullptr, nullptr, nullptr, nullptr};
     PlayerInterface* m_player = nullptr;
     CardSession* m_card = nullptr;
+    ExportSession* m_export = nullptr;
     ServiceSession* m_service = nullptr;
 
     bool m_agreementAccepted = false;

@@ -5,6 +5,7 @@
 #include "AboutView.h"
 #include "AppGlobals.h"
 #include "CardSession.h"
+#include "ExportSession.h"
 #include "ChartView.h"
 #include "Frameless.h"
 #include "LanguageView.h"
@@ -636,6 +637,12 @@ private slots:
         ROUTE(back, SubSceneBackWidget::onSendBlockKeyboardEvent, self,
               MainWindow::onBlockKeyboardEvent);
         ROUTE(player, PlayerInterface::onSendClear, back, SubSceneBackWidget::ClearPosition);
+        // The dialogs about the current picture pause and resume through the window's routes.
+        auto* exports = m_window->findChild<ExportSession*>();
+        ROUTE(exports, ExportSession::onSendSetPause, self, MainWindow::onSendSetPause);
+        ROUTE(exports, ExportSession::onSendResume, control, PlayControlView::onClick_bPlay);
+        ROUTE(exports, ExportSession::onSendShowMap, self, MainWindow::onRaiseMap);
+        ROUTE(exports, ExportSession::onSendShowList, self, MainWindow::onShowFilelist);
         // The settings dialog's speed unit reaches the map at once.
         ROUTE(m_window->findChild<CardSession*>(), CardSession::onSendSpeedUnit, map,
               MapView::onSetSpeedUnit);
