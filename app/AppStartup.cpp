@@ -1,7 +1,6 @@
 #include "AppStartup.h"
 
 #include "AppGlobals.h"
-#include "Frameless.h"
 #include "MainWindow.h"
 #include "ProcessPriority.h"
 #include "ServiceSession.h"
@@ -106,7 +105,6 @@ int AppStartup::run(int& argc, char** argv) {
 
     logInfo("[Main]: MainWindow start now!");
     auto* window = new MainWindow;
-    auto* frameless = new Frameless(window);
     window->show();
     splash->finish(window);
     delete splash;
@@ -117,7 +115,6 @@ int AppStartup::run(int& argc, char** argv) {
         QTimer::singleShot(0, window, [window, paths] { window->openPaths(paths); });
 
     const int exitCode = g_terminationRequested ? 0 : QApplication::exec();
-    delete frameless;
     delete window;
     return exitCode;
 }

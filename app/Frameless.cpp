@@ -1,9 +1,11 @@
 #include "Frameless.h"
 
 #include <QEvent>
+#include <QGuiApplication>
 #include <QHoverEvent>
 #include <QMouseEvent>
 #include <QRubberBand>
+#include <QScreen>
 
 Frameless::Frameless(QWidget* window)
     : QWidget(nullptr), m_window(window), m_rubberBand(new QRubberBand(QRubberBand::Rectangle)) {
@@ -18,6 +20,45 @@ Frameless::~Frameless() {
     if (m_window != nullptr)
         m_window->removeEventFilter(this);
     delete m_rubberBand;
+}
+
+void Frameless::toggleMaximized() {
+    if (m_window->isFullScreen())
+        return;
+    if (m_window->isMaximized())
+        m_window->showNormal();
+    else
+        m_window->showMaximized();
+}
+
+void Frameless::toggleFullScreen() {
+    if (m_window->isFullScreen()) {
+        if (m_maximizedBeforeFullScreen) {
+            m_window->showMaximized();
+        } else {
+            m_window->showNormal();
+            if (m_normalGeometry.isValid())
+                m_window->setGeometry(m_normalGeometry);
+        }
+        return;
+    }
+    m_maximizedBeforeFullScreen = m_window->isMaximized();
+    m_normalGeometry = m_window->geometry();
+    m_window->showFullScreen();
+}
+
+bool Frameless::toggleAlwaysOnTop() {
+    const bool onTop = !(m_window->windowFlags() & Qt::WindowStaysOnTopHint);
+    m_window->setWindowFlag(Qt::WindowStaysOnTopHint, onTop);
+    m_window->show(); // changing the flags hides a top-level window
+    return onTop;
+}
+
+void Frameless::updateMonitorSize() {
+    if (const QScreen* screen = QGuiApplication::primaryScreen()) {
+        m_screenSize = screen->size();
+        m_availableGeometry = screen->availableGeometry();
+    }
 }
 
 int Frameless::edgesAt(const QPoint& pos, const QSize& size) {

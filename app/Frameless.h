@@ -20,6 +20,16 @@ public:
     explicit Frameless(QWidget* window);
     ~Frameless() override;
 
+    // The window's states, as its top bar and keys ask for them. Maximising does nothing in
+    // full screen; leaving full screen goes back to the geometry, or the maximised state,
+    // from before; staying on top is switched and its new state returned.
+    void toggleMaximized();
+    void toggleFullScreen();
+    bool toggleAlwaysOnTop();
+    // The primary screen's size and free area, read anew (a screen changed).
+    void updateMonitorSize();
+    QRect availableGeometry() const { return m_availableGeometry; }
+
     // Which edges of a widget of the given size a point lies on (a corner is two edges).
     static int edgesAt(const QPoint& pos, const QSize& size);
 
@@ -41,4 +51,9 @@ private:
     bool m_moving = false;
     QPoint m_pressGlobal;
     QRect m_startGeometry;
+    // The geometry to come back to from full screen.
+    QRect m_normalGeometry;
+    bool m_maximizedBeforeFullScreen = false;
+    QSize m_screenSize;
+    QRect m_availableGeometry;
 };

@@ -5,6 +5,7 @@
 #include "CardSession.h"
 #include "ChartView.h"
 #include "ExportSession.h"
+#include "Frameless.h"
 #include "LanguageView.h"
 #include "LeftSideView.h"
 #include "MapView.h"
@@ -63,6 +64,8 @@ MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent) {
     }
 
     logInfo("Start to set UI");
+    // Borderless: moved and resized by its own edges, its states kept here.
+    m_frame = new Frameless(this);
     setAcceptDrops(true);
     setupUi();
     connectViews();
@@ -82,6 +85,8 @@ MainWindow::~MainWindow() {
     logInfo("[MainWindow]: Close Application.");
     if (m_saveSettings && SettingOptProgram::keepsSettings())
         saveSettings();
+    delete m_frame;
+    m_frame = nullptr;
     // The thumbnail worker stops before its folder goes.
     emit onSendStopItemThread();
     logInfo("[MainWindow]: Delete Thumbs...");
@@ -468,21 +473,12 @@ void MainWindow::makeShortcuts() {
 
 void MainWindow::onUpdateMonitorSize(bool) {
     logDebug("MainWindow::onUpdateMonitorSize");
-    if (const QScreen* screen = QGuiApplication::primaryScreen()) {
-        m_screenSize = screen->size();
-        m_availableGeometry = screen->availableGeometry();
-        m_availableSize = screen->availableSize();
-    }
+    m_frame->updateMonitorSize();
 }
 
 void MainWindow::onShowMaximized() {
     logDebug("MainWindow::onShowMaximized");
-    if (isFullScreen())
-        return;
-    if (isMaximized())
-        showNormal();
-    else
-        showMaximized();
+    m_frame->toggleMaximized();
 }
 
 void MainWindow::onShowMinimized() {
@@ -492,27 +488,12 @@ void MainWindow::onShowMinimized() {
 
 void MainWindow::onRecvFullScreen() {
     logDebug("MainWindow::onRecvFullScreen");
-    if (isFullScreen()) {
-        if (m_maximizedBeforeFullScreen)
-            showMaximized();
-        else {
-            showNormal();
-            if (m_normalGeometry.isValid())
-                setGeometry(m_normalGeometry);
-        }
-        return;
-    }
-    m_maximizedBeforeFullScreen = isMaximized();
-    m_normalGeometry = geometry();
-    showFullScreen();
+    m_frame->toggleFullScreen();
 }
 
 void MainWindow::onFixedTopScreen() {
     logDebug("MainWindow::onFixedTopScreen");
-    const bool onTop = !(windowFlags() & Qt::WindowStaysOnTopHint);
-    setWindowFlag(Qt::WindowStaysOnTopHint, onTop);
-    show(); // changing the flags hides a top-level window
-    emit onSendAlwaysTopUiChange(onTop ? 1 : 0);
+    emit onSendAlwaysTopUiChange(m_frame->toggleAlwaysOnTop() ? 1 : 0);
 }
 
 void MainWindow::changeEvent(QEvent* event) {

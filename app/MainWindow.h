@@ -7,6 +7,7 @@
 class ChartView;
 class CardSession;
 class ExportSession;
+class Frameless;
 class LeftSideView;
 class MapView;
 class PlayControlView;
@@ -161,10 +162,5 @@ private:
     bool m_blockEvent = false;
     bool m_blockKeyboard = false;
     int m_channels = 0;
-    QSize m_screenSize;
-    QRect m_availableGeometry;
-    QSize m_availableSize;
-    // The geometry to come back to from full screen.
-    QRect m_normalGeometry;
-    bool m_maximizedBeforeFullScreen = false;
+    Frameless* m_frame = nullptr;
 };
