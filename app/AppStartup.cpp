@@ -1,5 +1,6 @@
 #include "AppStartup.h"
 
+#include "AgreementView.h"
 #include "AppGlobals.h"
 #include "MainWindow.h"
 #include "ProcessPriority.h"
@@ -17,6 +18,29 @@
 #include <QStandardPaths>
 #include <QTimer>
 #include <QTranslator>
+
+bool AppStartup::acceptAgreementValue(const QString& value) {
+    static const QStringList accepted = {"0", "1", "3", "5", "7"};
+    if (!accepted.contains(value))
+        return false;
+    const int bits = value.toInt();
+    AppGlobals::updateChecksAllowed = (bits & 2) != 0;
+    AppGlobals::autoCrashReports = (bits & 4) != 0;
+    return true;
+}
+
+bool AppStartup::agreementAccepted(const std::function<void(int)>& finished) {
+    const QString agreement = AppGlobals::settings->value("agreement").toString();
+    if (!agreement.isEmpty())
+        return acceptAgreementValue(agreement);
+    // Asked without a parent: a dialog with the main window as its parent makes the window's
+    // native handle before any child exists. The scenes' native windows made later would then
+    // be stacked by the order of their making rather than the widgets' order, and the
+    // right-hand panel ended up above the main scene, which stayed black on the first start.
+    AgreementView dialog(nullptr);
+    QObject::connect(&dialog, &QDialog::finished, finished);
+    return dialog.exec() == 1;
+}
 
 namespace {
 

@@ -1,5 +1,9 @@
 #pragma once
 
+#include <QString>
+
+#include <functional>
+
 // The program's start-up sequence, its event loop and its end. main() only calls run().
 class AppStartup {
 public:
@@ -11,4 +15,15 @@ public:
 
     // Sets the folders and the log level, creating the data folder when missing.
     static void initialiseFolders();
+
+    // Whether a stored "agreement" value lets the program run; sets the update-check and
+    // crash-report flags from it. Empty and unknown values do not.
+    static bool acceptAgreementValue(const QString& value);
+    // Whether the user agreed: the stored value, or (none stored yet) the agreement dialog,
+    // whose end is also handed to the window's slot.
+    template <typename Window>
+    static bool agreementAccepted(Window* window, void (Window::*finished)(int)) {
+        return agreementAccepted([window, finished](int result) { (window->*finished)(result); });
+    }
+    static bool agreementAccepted(const std::function<void(int)>& finished);
 };

@@ -1,7 +1,7 @@
 #include "MainWindow.h"
 
-#include "AgreementView.h"
 #include "AppGlobals.h"
+#include "AppStartup.h"
 #include "CardSession.h"
 #include "ChartView.h"
 #include "ExportSession.h"
@@ -56,7 +56,7 @@ MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent) {
     AppGlobals::videoPath = AppGlobals::settings->value("videoPath").toString();
     AppGlobals::speedUnit = AppGlobals::settings->value("speedUnit", AppGlobals::speedUnit).toInt();
 
-    checkAgreement();
+    m_agreementAccepted = AppStartup::agreementAccepted(this, &MainWindow::onAgreeDlgFinished);
     if (!m_agreementAccepted) {
         logInfo("User disagree to use privacy information for program");
         AppGlobals::settings->sync();
@@ -104,33 +104,6 @@ MainWindow::~MainWindow() {
     const QString log = AppGlobals::statusLogPath();
     if (QFile::exists(log) && !QFile::remove(log))
         logError("[MainWindow]: Can not delete log File.");
-}
-
-bool MainWindow::acceptAgreementValue(const QString& value) {
-    static const QStringList accepted = {"0", "1", "3", "5", "7"};
-    if (!accepted.contains(value))
-        return false;
-    const int bits = value.toInt();
-    AppGlobals::updateChecksAllowed = (bits & 2) != 0;
-    AppGlobals::autoCrashReports = (bits & 4) != 0;
-    return true;
-}
-
-void MainWindow::checkAgreement() {
-    const QString agreement = AppGlobals::settings->value("agreement").toString();
-    if (agreement.isEmpty()) {
-        // Asked without a parent: a dialog with this window as its parent makes the window's
-        // native handle before any child exists. The scenes' native windows made later would
-        // then be stacked by the order of their making rather than the widgets' order, and
-        // the right-hand panel ended up above the main scene, which stayed black on the
-        // first start.
-        auto* dialog = new AgreementView(nullptr);
-        connect(dialog, &QDialog::finished, this, &MainWindow::onAgreeDlgFinished);
-        dialog->exec();
-        delete dialog;
-        return;
-    }
-    m_agreementAccepted = acceptAgreementValue(agreement);
 }
 
 void MainWindow::onAgreeDlgFinished(int result) {

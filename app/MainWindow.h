@@ -42,9 +42,6 @@ public:
     explicit MainWindow(QWidget* parent = nullptr);
     ~MainWindow() override;
 
-    // Whether a stored "agreement" value lets the program run; sets the update-check and
-    // crash-report flags from it. Empty and unknown values do not.
-    static bool acceptAgreementValue(const QString& value);
 
     PlayerInterface* player() const { return m_player; }
     // The companion service: the version check after the window shows starts there.
@@ -121,7 +118,6 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void checkAgreement();
     void setupUi();
     void connectViews();
     void connectControlView();

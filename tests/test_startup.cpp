@@ -3,6 +3,7 @@
 // with its own home, with what it leaves behind.
 #include "AgreementView.h"
 #include "AppGlobals.h"
+#include "AppStartup.h"
 #include "MainWindow.h"
 #include "StatusLog.h"
 #include "StatusLogWriter.h"
@@ -117,7 +118,7 @@ private slots:
         QFETCH(bool, reports);
         AppGlobals::updateChecksAllowed = false;
         AppGlobals::autoCrashReports = false;
-        QCOMPARE(MainWindow::acceptAgreementValue(value), accepted);
+        QCOMPARE(AppStartup::acceptAgreementValue(value), accepted);
         QCOMPARE(AppGlobals::updateChecksAllowed, updates);
         QCOMPARE(AppGlobals::autoCrashReports, reports);
     }
@@ -140,7 +141,7 @@ private slots:
         QCOMPARE(AppGlobals::settings->value("agreement").toString(), QString("5"));
         // What the dialog stored is what the next start accepts.
         QVERIFY(
-            MainWindow::acceptAgreementValue(AppGlobals::settings->value("agreement").toString()));
+            AppStartup::acceptAgreementValue(AppGlobals::settings->value("agreement").toString()));
         QVERIFY(AppGlobals::autoCrashReports);
         QVERIFY(!AppGlobals::updateChecksAllowed);
     }
