@@ -143,6 +143,11 @@ QString CardFixture::shippedJson(const QString& name) {
     return QCoreApplication::applicationDirPath() + "/Resources/json/" + name;
 }
 
+QByteArray CardFixture::shippedConfigBin(const QString& model,
+                                         const QVector<QVector<qint64>>& values) {
+    return configBin(model, blocks(layout(shippedJson("configStr.json"), model), values));
+}
+
 bool CardFixture::writeFile(const QString& path, const QByteArray& bytes) {
     QDir().mkpath(QFileInfo(path).absolutePath());
     QFile file(path);

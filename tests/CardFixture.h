@@ -36,6 +36,9 @@ public:
     // The item widths of a model in a configStr.json, read with Qt's own JSON reader.
     static QVector<QVector<int>> layout(const QString& configStr, const QString& model);
     static QString shippedJson(const QString& name);
+    // config.bin of a shipped model (its layout in the shipped configStr.json).
+    static QByteArray shippedConfigBin(const QString& model,
+                                       const QVector<QVector<qint64>>& values = {});
 
     static bool writeFile(const QString& path, const QByteArray& bytes);
     static QByteArray readFile(const QString& path);

@@ -25,15 +25,17 @@
 #include <QPlainTextEdit>
 #include <QPrintDialog>
 #include <QProcess>
-#include <QRegularExpression>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QRegularExpression>
 #include <QSignalSpy>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <QtTest>
+
+#include <memory>
 
 namespace {
 
@@ -134,17 +136,26 @@ class TestExport : public QObject {
     QTemporaryDir m_data;
     QStringList m_messages;
     QByteArray m_path;
+    std::unique_ptr<SaveAsView> m_view;
 
     // The dialog for a recording, with only `channels` checked.
     SaveAsView* open(const QString& recording, int channelCount, const QList<int>& channels) {
         PlaybackState::currentFile = recording;
         PlaybackState::playChannelCount = channelCount;
-        auto* view = new SaveAsView;
+        m_view = std::make_unique<SaveAsView>();
         for (int i = 0; i < channelCount; ++i)
-            view->findChild<QCheckBox*>(QStringLiteral("item%1").arg(i + 1))
+            m_view->findChild<QCheckBox*>(QStringLiteral("item%1").arg(i + 1))
                 ->setChecked(channels.contains(i));
-        view->show();
-        return view;
+        m_view->show();
+        return m_view.get();
+    }
+
+    // An ffmpeg first on the PATH that writes `partial` where the copy goes (its last
+    // argument) and then runs `rest`.
+    void fakeFfmpeg(const QTemporaryDir& bin, const QString& partial, const QString& rest) {
+        writeScript(bin.path(),
+                    "for a; do last=\"$a\"; done\nprintf '" + partial + "' > \"$last\"\n" + rest);
+        qputenv("PATH", bin.path().toUtf8() + ':' + m_path);
     }
 
     // Chooses video or snapshots, the folder and kind of file, saves, and waits for the end.
@@ -157,7 +168,6 @@ class TestExport : public QObject {
             view->findChild<QRadioButton*>(container)->click();
         const int before = m_messages.size();
         view->findChild<QPushButton*>("bSave")->click();
-        QTRY_VERIFY_WITH_TIMEOUT(m_messages.size() > before || !view->runner()->isRunning(), 60000);
         QTRY_VERIFY_WITH_TIMEOUT(m_messages.size() > before, 60000);
     }
 
@@ -200,12 +210,7 @@ class TestExport : public QObject {
         };
         report->findChild<QPushButton*>("bSavePdf")->click();
         TavPrompt::saveFileHook = nullptr;
-        QSignalSpy finished(&select, &PrintChannelSelectView::finishedPrintView);
-        report->findChild<QPushButton*>("bCancel")->click();
-        // Closing the report closes the choice with the same result.
-        if (finished.size() != 1 || finished.at(0).at(0).toInt() != QDialog::Rejected ||
-            select.isVisible())
-            return QString();
+        // (Closing the report closes the choice too: test_playthrough's print waits for it.)
         return pdf;
     }
 
@@ -225,6 +230,8 @@ private slots:
         playRecording();
     }
 
+    void cleanup() { m_view.reset(); }
+
     // Which copies run for which choice, before anything runs.
     void planFindsEveryCameraAndNamesTheMissing() {
         QTemporaryDir out;
@@ -239,9 +246,8 @@ private slots:
         QCOMPARE(partial.missingChannels(), QList<int>{1});
         QVERIFY(!VideoExportPlan::isSeparateFiles("20240301_092000_USR_4.mp4"));
         QVERIFY(!VideoExportPlan::isSeparateFiles("20240301_090000_INF_1.MP4"));
-        // Saving into the recording's own folder as the same kind would write over it.
-        VideoExportPlan over(kSplit, 3, {0}, "mp4", kMedia);
-        QVERIFY(over.overwritesInput().endsWith("20240301_090000_INF_1.mp4"));
+        // Into the recording's own folder only another kind writes over nothing (the same
+        // kind: theRecordingIsNeverWrittenOver).
         QVERIFY(VideoExportPlan(kSplit, 3, {0}, "avi", kMedia).overwritesInput().isEmpty());
     }
 
@@ -326,20 +332,16 @@ private slots:
             QCOMPARE(rgb.indexOf(char(std::max({uchar(rgb[0]), uchar(rgb[1]), uchar(rgb[2])}))),
                      cameras[i]);
         }
-        delete view;
     }
 
     // A failing ffmpeg: its last error is told, and what was at the output's place stays.
     void failureIsReportedAndNothingIsLost() {
         QTemporaryDir bin;
         QTemporaryDir out;
-        writeScript(bin.path(), "for a; do last=\"$a\"; done\n"
-                                "printf 'partial' > \"$last\"\n"
-                                "echo '[info] Input #0' >&2\n"
-                                "echo '[fatal] Stream map matches no streams.' >&2\n"
-                                "echo 'To ignore this, add a trailing ? to the map.' >&2\n"
-                                "exit 1");
-        qputenv("PATH", bin.path().toUtf8() + ':' + m_path);
+        fakeFfmpeg(bin, "partial",
+                   "echo '[info] Input #0' >&2\n"
+                   "echo '[fatal] Stream map matches no streams.' >&2\n"
+                   "echo 'To ignore this, add a trailing ? to the map.' >&2\nexit 1");
         const QString earlier = out.path() + "/20240301_090000_INF_1.mp4";
         QVERIFY(writeFile(earlier, "an earlier copy"));
         SaveAsView* view = open(kSplit, 3, {0});
@@ -351,17 +353,13 @@ private slots:
         QCOMPARE(QDir(out.path()).entryList(QDir::Files),
                  QStringList{QFileInfo(earlier).fileName()});
         QVERIFY(view->isVisible()); // the user can try again
-        delete view;
     }
 
     void cancelLeavesNoFile() {
         QTemporaryDir bin;
         QTemporaryDir out;
-        writeScript(bin.path(), "for a; do last=\"$a\"; done\n"
-                                "printf 'half a file' > \"$last\"\n"
-                                "echo 'out_time_us=1000000'\necho 'progress=continue'\n"
-                                "exec sleep 30");
-        qputenv("PATH", bin.path().toUtf8() + ':' + m_path);
+        fakeFfmpeg(bin, "half a file",
+                   "echo 'out_time_us=1000000'\necho 'progress=continue'\nexec sleep 30");
         SaveAsView* view = open(kSplit, 3, {0, 1});
         view->findChild<QPushButton*>("bSaveVideo")->click();
         view->findChild<QLineEdit*>("editPath")->setText(out.path());
@@ -376,7 +374,6 @@ private slots:
         QCOMPARE(QDir(out.path()).entryList(QDir::Files), QStringList());
         QVERIFY(m_messages.isEmpty());
         QVERIFY(!stop->isVisible());
-        delete view;
     }
 
     void missingFfmpegIsNamed() {
@@ -387,7 +384,6 @@ private slots:
         save(view, "bSaveVideo", out.path());
         QVERIFY2(m_messages.last().contains("ffmpeg"), qPrintable(m_messages.last()));
         QCOMPARE(QDir(out.path()).entryList(QDir::Files), QStringList());
-        delete view;
     }
 
     void theRecordingIsNeverWrittenOver() {
@@ -396,7 +392,6 @@ private slots:
         save(view, "bSaveVideo", kMedia, "rMp4");
         QVERIFY2(m_messages.last().contains("recording itself"), qPrintable(m_messages.last()));
         QCOMPARE(contents(kSplit), before);
-        delete view;
     }
 
     // One JPEG per checked camera, named after recording, camera and position.
@@ -413,14 +408,10 @@ private slots:
         save(view, "bSaveSnapshot", out.path() + "/shots");
         QVERIFY2(m_messages.last().startsWith("Complete to Save Snapshot!"),
                  qPrintable(m_messages.last()));
+        // The pictures themselves and the folder kept for next time: test_playthrough.
         QCOMPARE(
             QDir(out.path() + "/shots").entryList(QDir::Files),
             QStringList({"20240301_092000_USR_4_1_4375.jpg", "20240301_092000_USR_4_3_4375.jpg"}));
-        const QImage third(out.path() + "/shots/20240301_092000_USR_4_3_4375.jpg", "jpg");
-        QCOMPARE(third.size(), QSize(320, 180));
-        QVERIFY(qBlue(third.pixel(160, 90)) > 200 && qRed(third.pixel(160, 90)) < 60);
-        QCOMPARE(AppGlobals::snapshotPath, out.path() + "/shots");
-        delete view;
     }
 
     // Nothing checked: the message, the channel page stays and nothing is made.
@@ -435,27 +426,22 @@ private slots:
             QVERIFY(!view->onFilePage());
         }
         QVERIFY(!QFileInfo::exists(out.path() + "/never"));
-        delete view;
     }
 
-    void firstFoldersAreUnderMoviesAndPictures() {
+    // The first folders (under Videos and Pictures) are where test_firstrun's saves go.
+    void kindOfFileOnlyForVideo() {
         SaveAsView* view = open(kSplit, 3, {0});
         view->findChild<QPushButton*>("bSaveVideo")->click();
-        QCOMPARE(QDir::fromNativeSeparators(view->findChild<QLineEdit*>("editPath")->text()),
-                 QStandardPaths::writableLocation(QStandardPaths::MoviesLocation) + "/ZENTA");
         QVERIFY(view->findChild<QRadioButton*>("rMp4")->isVisible());
         view->findChild<QPushButton*>("bBack")->click();
         QVERIFY(!view->onFilePage());
         view->findChild<QPushButton*>("bSaveSnapshot")->click();
-        QCOMPARE(QDir::fromNativeSeparators(view->findChild<QLineEdit*>("editPath")->text()),
-                 QStandardPaths::writableLocation(QStandardPaths::PicturesLocation) + "/ZENTA");
         QVERIFY(!view->findChild<QRadioButton*>("rMp4")->isVisible());
         // Only the recording's cameras are offered.
         PlaybackState::playChannelCount = 2;
         SaveAsView two;
         QVERIFY(two.findChild<QCheckBox*>("item2")->isEnabled());
         QVERIFY(!two.findChild<QCheckBox*>("item3")->isEnabled());
-        delete view;
     }
 
     // Snapshot names: the position with up to six digits, without its "0.".
@@ -486,8 +472,7 @@ private slots:
     // ---- The report ----
 
     void valuesOfTheCurrentTime() {
-        // At 65 s of 100 s, sample 65; the PDF test reads them back.
-        QCOMPARE(ReportScene::fromPlayback(QString(), 2).speed, QStringLiteral("26.4"));
+        // At 65 s of 100 s, sample 65: the PDF test reads its values back.
         QCOMPARE(ReportScene::coordinateText(7.5), QStringLiteral("07.50000"));
         QCOMPARE(ReportScene::coordinateText(-3.25), QStringLiteral("-03.25000"));
         // No fix at this moment: no position, the G-sensor values stay.

@@ -71,12 +71,6 @@ class TestSDCard : public QObject {
     QString m_bare;  // removable, no configuration
     QString m_fixed; // a fixed disk with a configuration
 
-    QByteArray config(const QString& model) {
-        return CardFixture::configBin(
-            model, CardFixture::blocks(
-                       CardFixture::layout(CardFixture::shippedJson("configStr.json"), model), {}));
-    }
-
     void selectRow(SDCardView& view, const QString& root) {
         for (int row = 0; row < view.table()->rowCount(); ++row) {
             if (view.table()->item(row, SDCardView::DriveColumn)->text() == root) {
@@ -110,9 +104,7 @@ class TestSDCard : public QObject {
         CardFixture fixture(m_base);
         m_root = fixture.addDrive("media/HERON", true, "OLDCARD", m_image);
         fixture.install();
-        const auto widths =
-            CardFixture::layout(CardFixture::shippedJson("configStr.json"), "HERON07_D21");
-        m_config = CardFixture::configBin("HERON07_D21", CardFixture::blocks(widths, {{1, 1}}));
+        m_config = CardFixture::shippedConfigBin("HERON07_D21", {{1, 1}});
         QVERIFY(CardFixture::writeFile(m_root + "/CONFIG/config.bin", m_config));
         QVERIFY(CardFixture::writeFile(m_root + "/CONFIG/wifi.dat", "ssid"));
         QVERIFY(CardFixture::writeFile(m_root + "/Normal/20240101_100000_INF_1.mp4", "video"));
@@ -159,17 +151,18 @@ private slots:
         fixture.addBindMount("elsewhere", "media/RAVEN CARD");
         fixture.install();
         for (const QString& root : {m_raven, m_fixed})
-            CardFixture::writeFile(ConfigAccess::configPath(root), config("RAVEN1_2CH"));
-        CardFixture::writeFile(ConfigAccess::configPath(m_osprey), config("OSPREY_1CH"));
+            CardFixture::writeFile(ConfigAccess::configPath(root),
+                                   CardFixture::shippedConfigBin("RAVEN1_2CH"));
+        CardFixture::writeFile(ConfigAccess::configPath(m_osprey),
+                               CardFixture::shippedConfigBin("OSPREY_1CH"));
         touch(m_bare + "/Normal/20240101_100000_INF_1.mp4");
         for (const QString& root : {m_raven, m_osprey}) {
             for (const char* name :
                  {"Normal/20240101_100000_INF_1.mp4", "Normal/20240101_100000_INF_2.mp4",
-                  "Normal/20240101_100500_USR_4.mp4",
-                  "Event/20240101_101500_EVT_1.mp4", "Event/20240101_101500_EVT_1.avi",
-                  "Event/20240101_101500_EVT_1_2.avi", "Normal/notes.txt",
-                  "Normal/20241399_100000_INF_1.mp4", "CONFIG/20240101_100000_INF_1.mp4",
-                  "20240101_090000_INF_1.mp4"})
+                  "Normal/20240101_100500_USR_4.mp4", "Event/20240101_101500_EVT_1.mp4",
+                  "Event/20240101_101500_EVT_1.avi", "Event/20240101_101500_EVT_1_2.avi",
+                  "Normal/notes.txt", "Normal/20241399_100000_INF_1.mp4",
+                  "CONFIG/20240101_100000_INF_1.mp4", "20240101_090000_INF_1.mp4"})
                 touch(root + '/' + name);
         }
         TavPrompt::informHook = [this](const QString& text) { m_messages << text; };
@@ -192,26 +185,24 @@ private slots:
 
     void cleanupTestCase() { qputenv("PATH", m_path); }
 
-    void drivesFromTheTables() {
+    // The drives: not the fixed disk nor a bind mount; a built-in slot although it reports
+    // itself fixed. The dialog lists those with a configuration.
+    void drivesFromTheTablesAndTheDialogsList() {
         const QVector<CardDrives::Drive> drives = CardDrives::list();
         QStringList roots;
         for (const CardDrives::Drive& drive : drives)
             roots << drive.root;
-        // Not the fixed disk nor a bind mount; a built-in slot although it reports itself fixed.
         QCOMPARE(roots, (QStringList{m_raven, m_bare, m_osprey}));
-        QCOMPARE(drives[0].name, QString("RAVEN CARD"));
         QCOMPARE(drives[1].name, QString());
         QVERIFY(drives[0].totalBytes > 0 && drives[0].freeBytes <= drives[0].totalBytes);
         QCOMPARE(CardDrives::sizeText(31890298880ull), QString("29.7GB"));
         QCOMPARE(CardDrives::sizeText(0), QString("0.0GB"));
-    }
 
-    void dialogListsCardsWithAConfiguration() {
         SDCardView view;
         QCOMPARE(view.table()->rowCount(), 2);
         QCOMPARE(view.table()->item(0, SDCardView::DriveColumn)->text(), m_raven);
         QCOMPARE(view.table()->item(0, SDCardView::NameColumn)->text(), QString("RAVEN CARD"));
-        const CardDrives::Drive drive = CardDrives::list().first();
+        const CardDrives::Drive& drive = drives.first();
         QCOMPARE(view.table()->item(0, SDCardView::UsedColumn)->text(),
                  CardDrives::sizeText(drive.totalBytes - drive.freeBytes));
         QVERIFY(view.table()->item(0, SDCardView::FreeColumn)->text().endsWith("GB"));
@@ -332,7 +323,8 @@ private slots:
         QTemporaryDir base;
         CardFixture fixture(base.path());
         const QString root = fixture.addDrive("PULLED", true);
-        CardFixture::writeFile(ConfigAccess::configPath(root), config("RAVEN2_3CH"));
+        CardFixture::writeFile(ConfigAccess::configPath(root),
+                               CardFixture::shippedConfigBin("RAVEN2_3CH"));
         touch(root + "/Normal/20240101_100000_INF_1.mp4");
         fixture.install();
         CardSession session;
@@ -378,9 +370,7 @@ private slots:
         QCOMPARE(CardFixture::readFile(m_root + "/CONFIG/config.bin"), m_config);
         QCOMPARE(CardFixture::readFile(m_root + "/CONFIG/wifi.dat"), QByteArray("ssid"));
         QVERIFY(!QDir(AppGlobals::dataFolder + "/CONFIG").exists());
-        QCOMPARE(toolLog(), QString("unmount -b %1 --no-user-interaction\n"
-                                    "mount -b %1 --no-user-interaction\n")
-                                .arg(m_image));
+        QCOMPARE(toolLog().count("mount -b " + m_image), 2); // unmounted and mounted again
         QVERIFY(!FileFormatThread::busy);
     }
 

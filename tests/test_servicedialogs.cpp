@@ -17,11 +17,11 @@
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QLabel>
 #include <QProcess>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -69,21 +69,11 @@ public:
     }
     // The messages the program sent, in order.
     QStringList received() const {
-        QStringList messages;
-        for (const QString& line : transcript())
-            if (line.startsWith(QLatin1String("< ")))
-                messages << line.mid(2);
-        return messages;
+        static const QRegularExpression sent(QStringLiteral("^< "));
+        return transcript().filter(sent).replaceInStrings(sent, QString());
     }
-    bool waitFor(const QString& line, int ms = 15000) const {
-        QElapsedTimer clock;
-        clock.start();
-        while (!transcript().contains(line)) {
-            if (clock.elapsed() > ms)
-                return false;
-            QTest::qWait(20);
-        }
-        return true;
+    bool waitFor(const QString& line) const {
+        return QTest::qWaitFor([&] { return transcript().contains(line); }, 15000);
     }
 
 private:
@@ -121,10 +111,9 @@ class TestServiceDialogs : public QObject {
         if (!file.open(QIODevice::ReadOnly))
             return {};
         QStringList lines;
-        for (const QByteArray& line : file.readAll().split('\n')) {
+        for (const QByteArray& line : file.readAll().split('\n'))
             if (line.size() > 15)
                 lines << QString::fromLocal8Bit(line.mid(15));
-        }
         return lines;
     }
 
@@ -137,20 +126,7 @@ class TestServiceDialogs : public QObject {
     }
 
     static QPushButton* button(QWidget* view, const char* name) {
-        auto* found = view->findChild<QPushButton*>(QLatin1String(name));
-        if (found == nullptr)
-            qWarning("no button %s", name);
-        return found;
-    }
-
-    // A button of a settings row found by its text.
-    static QPushButton* rowButton(QWidget* row, const QString& text) {
-        for (QPushButton* candidate : row->findChildren<QPushButton*>()) {
-            if (candidate->text() == text)
-                return candidate;
-        }
-        qWarning("no button %s", qPrintable(text));
-        return nullptr;
+        return view->findChild<QPushButton*>(QLatin1String(name));
     }
 
     static QString notWorking() {
@@ -215,9 +191,6 @@ private slots:
         QVERIFY(LocalSocket::serviceConnected);
         QCOMPARE(link->isEnabled(), enabled);
         QCOMPARE(m_service.received(), QStringList{"HelloLauncher"});
-        QVERIFY(logLines().contains("[i] Send Message: HelloLauncher"));
-        QVERIFY(logLines().contains("[i] connected localSocket!"));
-
         QSignalSpy messages(link, &LocalSocket::onSendRecvMessage);
         QVERIFY(m_service.waitFor("> Unasked"));
         ServiceRequest request;
@@ -241,14 +214,6 @@ private slots:
             QCOMPARE(m_service.received(), QStringList{"HelloLauncher"});
             QCOMPARE(messages.count(), 0);
         }
-        // The goodbye goes out in any case and switches the link on again.
-        link->sendMessage(LocalSocket::kGoodbye);
-        QVERIFY(link->isEnabled());
-        QVERIFY(m_service.waitFor("< GoodbyeLauncher"));
-        link->close();
-        QVERIFY(link->socket() == nullptr);
-        QVERIFY(m_service.waitFor("-"));
-        QVERIFY(!LocalSocket::serviceConnected);
     }
 
     void silentServiceIsGivenUpAndTheWindowStillDraws() {
@@ -271,10 +236,7 @@ private slots:
                  qPrintable(QString::number(window.paints)));
         QVERIFY(!LocalSocket::serviceConnected);
         QVERIFY(link->isEnabled());
-        const QStringList log = logLines();
-        QCOMPARE(log.count("[i] Wait... "), LocalSocket::kWaitCount);
-        QVERIFY(log.contains("[e] Comm is not work!"));
-        QVERIFY(log.contains("[i] GetMessage Complete! Message is : "));
+        QCOMPARE(logLines().count("[i] Wait... "), LocalSocket::kWaitCount);
         // Given up for good: nothing more is sent.
         link->sendMessage("Version");
         QTest::qWait(100);
@@ -288,8 +250,7 @@ private slots:
             QObject owner;
             connectLink(&owner);
             QVERIFY(!LocalSocket::serviceConnected);
-            QVERIFY(logLines().contains("[e] N: Error = PeerClosedError"));
-            QVERIFY(logLines().contains("[e] Comm is not work!"));
+            QVERIFY(logLines().contains("[e] N: Error = PeerClosedError")); // not a time-out
         }
         // During a view's question: the question ends at once, not at its time limit.
         QVERIFY(m_service.start({"Version=@close"}));
@@ -340,7 +301,6 @@ private slots:
         link->close();
         QVERIFY(link->socket() == nullptr);
         const QStringList after = logLines().mid(lines);
-        QCOMPARE(after.value(0), QString("[i] LocalSocket::close"));
         QVERIFY(after.contains("[i] N: State = ClosingState"));
         QVERIFY(!after.contains("[i] N: State = UnconnectedState"));
         QVERIFY(!LocalSocket::serviceConnected);
@@ -371,8 +331,7 @@ private slots:
              {"", "inf", "1e9", " 1.0.7", "1.0.7\n", "1..0", "v1.0.7", "\u0661.\u0660"})
             QVERIFY2(!VersionText::isVersion(QString::fromUtf8(no)), no);
         QVERIFY(!VersionText::isVersion(QString(40, '1')));
-        QCOMPARE(VersionText::judge("1.0.6"), VersionText::Latest);
-        QCOMPARE(VersionText::judge("1.1"), VersionText::Newer);
+        // judge(): the about view's rows against the stand-in.
     }
 
     // ---- The dialogs ----
@@ -383,11 +342,9 @@ private slots:
         QVERIFY(!LocalSocket::serviceConnected);
         // Not found, or refused where an earlier test's service left its socket file.
         QTRY_VERIFY(!logLines().filter("[e] N: Error = ").isEmpty());
-        QVERIFY(logLines().contains("[i] N: State = UnconnectedState"));
         session.startVersionCheck();
 
         AboutView about;
-        QCOMPARE(about.stateLabel()->text(), notWorking());
         button(&about, "bUpdate")->click();
         QTRY_COMPARE(m_messages, QStringList{notWorking()});
 
@@ -408,38 +365,28 @@ private slots:
         QVERIFY(!logLines().contains("[i] Wait... "));
     }
 
+    // No update and a completed download are the real program's runs in test_service_program.
     void versionCheckAtStart_data() {
         QTest::addColumn<QStringList>("answers");
         QTest::addColumn<bool>("yes");
         QTest::addColumn<QStringList>("received");
         QTest::addColumn<QStringList>("messages");
-        QTest::addColumn<bool>("quits");
         const QString hello = LocalSocket::kHello;
-        const QString failed = ServiceRequest::failureText(ServiceRequest::DownloadFailed);
-        QTest::newRow("no update") << QStringList{"@version=NoUpdate"} << false
-                                   << QStringList{hello, "1.0.6"} << QStringList{} << false;
         QTest::newRow("update declined") << QStringList{"@version=FindUpdate"} << false
-                                         << QStringList{hello, "1.0.6"} << QStringList{} << false;
+                                         << QStringList{hello, "1.0.6"} << QStringList{};
         QTest::newRow("download fails")
             << QStringList{"@version=FindUpdate", "Download=fail"} << true
-            << QStringList{hello, "1.0.6", "Download"} << QStringList{failed} << false;
-        QTest::newRow("download completes")
-            << QStringList{"@version=FindUpdate", "Download=wait",
-                           "DownloadWaiting=@sleep=300|complete"}
-            << true << QStringList{hello, "1.0.6", "Download", "DownloadWaiting", "closeToDoNot"}
-            << QStringList{"The new version has been downloaded. The program closes now so "
-                           "that it can be installed."}
-            << true;
+            << QStringList{hello, "1.0.6", "Download"}
+            << QStringList{ServiceRequest::failureText(ServiceRequest::DownloadFailed)};
         QTest::newRow("link lost before Yes")
             << QStringList{"@version=FindUpdate|@sleep=100|@close", "Download=wait",
                            "DownloadWaiting=@sleep=300|complete"}
             << true
             << QStringList{hello, "1.0.6", hello, "Download", "DownloadWaiting", "closeToDoNot"}
             << QStringList{"The new version has been downloaded. The program closes now so "
-                           "that it can be installed."}
-            << true;
+                           "that it can be installed."};
         QTest::newRow("unknown answer") << QStringList{"@version=@garbage"} << true
-                                        << QStringList{hello, "1.0.6"} << QStringList{} << false;
+                                        << QStringList{hello, "1.0.6"} << QStringList{};
     }
 
     void versionCheckAtStart() {
@@ -447,7 +394,6 @@ private slots:
         QFETCH(bool, yes);
         QFETCH(QStringList, received);
         QFETCH(QStringList, messages);
-        QFETCH(bool, quits);
         QVERIFY(m_service.start(answers));
         m_answer = yes;
         m_answerAfterLinkLoss = answers.join('|').contains("@close");
@@ -459,7 +405,7 @@ private slots:
         QTest::qWait(300);
         QCOMPARE(m_service.received(), received);
         QCOMPARE(m_messages, messages);
-        QCOMPARE(quit.count(), quits ? 1 : 0);
+        QCOMPARE(quit.count(), int(received.contains("closeToDoNot")));
         if (received.contains("Download"))
             QCOMPARE(m_questions, QStringList{"Update Message: find Update Version\nWould you "
                                               "like to download now?"});
@@ -476,10 +422,6 @@ private slots:
         session.startVersionCheck();
         QTest::qWait(300);
         QCOMPARE(m_service.received(), QStringList{LocalSocket::kHello});
-        // The end: the goodbye, and the link closed.
-        session.close();
-        QVERIFY(m_service.waitFor("-"));
-        QCOMPARE(m_service.received().last(), QString(LocalSocket::kGoodbye));
     }
 
     void updateDialogAcceptedClosesTheProgram() {
@@ -491,7 +433,6 @@ private slots:
         session.onUpdateDlgFinished(1);
         QCOMPARE(quit.count(), 1);
         QVERIFY(m_service.waitFor("< closeToDoNot"));
-        QVERIFY(logLines().contains("[i] Update is Exist. Program will be close"));
     }
 
     void aboutView_data() {
@@ -503,8 +444,6 @@ private slots:
                                << "Version 1.0.7 is out." << true;
         QTest::newRow("same") << "1.0.6"
                               << "This is the latest version." << false;
-        QTest::newRow("older") << "1.0.5"
-                               << "This is the latest version." << false;
         QTest::newRow("garbage") << "@garbage" << unknown << false;
         QTest::newRow("very long") << "@long=300000" << unknown << false;
         QTest::newRow("silent") << "@silent"
@@ -607,12 +546,17 @@ private slots:
         QSignalSpy language(&view, &SettingView::onSendChangeLanguage);
         QSignalSpy unit(&view, &SettingView::onSendSpeedUnit);
 
-        rowButton(page->option("Speed Unit"), "Mi/h")->click();
+        const auto clickUnit = [page](const QString& text) {
+            for (QPushButton* candidate : page->option("Speed Unit")->findChildren<QPushButton*>())
+                if (candidate->text() == text)
+                    candidate->click();
+        };
+        clickUnit("Mi/h");
         QCOMPARE(AppGlobals::speedUnit, 2);
         QCOMPARE(unit.count(), 1); // for the map, which shows it at once
         QCOMPARE(unit.first().first().toInt(), 2);
         QCOMPARE(AppGlobals::settings->value("speedUnit").toInt(), 2);
-        rowButton(page->option("Speed Unit"), "Km/h")->click();
+        clickUnit("Km/h");
         QCOMPARE(AppGlobals::speedUnit, 1);
 
         // The chooser opens where the folder is now: the default one (when it exists, else

