@@ -799,60 +799,6 @@ private slots:
         QCOMPARE(shown.count(), 4); // shown, hidden, shown, hidden
         QCOMPARE(shown.at(3).at(0).toInt(), 0);
     }
-
-    void chosenTypesFilterTheList() {
-        QStringList paths;
-        for (const char* name :
-             {"20240101_080000_INF_1.mp4", "20240101_080100_EVT_1.mp4", "20240101_080200_PRK_1.mp4",
-              "20240101_080300_USR_1.mp4", "20240101_080400_ENF_1.mp4"})
-            paths << touch(name, "types");
-        // Rear cameras: the filter and its counts are about recordings, not files.
-        QStringList rear;
-        for (const char* name : {"20240101_080000_INF_2.mp4", "20240101_080000_INF_3.mp4",
-                                 "20240101_080200_PRK_3.mp4"})
-            rear << touch(name, "types");
-        TavTypeList popUp;
-        TavFileComboBox combo;
-        TavFileListItem files;
-        connect(&popUp, &TavTypeList::onSendCurrentType, &combo, &TavFileComboBox::onUpdateSetData);
-        connect(&popUp, &TavTypeList::onSendTypeListSet, &combo,
-                &TavFileComboBox::onUpdateListState);
-        connect(&combo, &TavFileComboBox::onSendTypeListControl, &popUp,
-                &TavTypeList::onControlTypeList);
-        connect(&combo, &TavFileComboBox::onSendFileTypeFilter, &files,
-                &TavFileListItem::onSortFile);
-        connect(&files, &TavFileListItem::onSendRefreshFilter, &combo,
-                &TavFileComboBox::onUpdateList);
-        connect(&files, &TavFileListItem::onSendHideTypeList, &popUp, &TavTypeList::onHideTypeList);
-        combo.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&combo));
-        QTest::mouseClick(&combo, Qt::LeftButton, {}, QPoint(20, 10));
-        QVERIFY(popUp.isListShown());
-        QVERIFY(combo.findChild<QPushButton*>("bOpenList")->isChecked());
-
-        files.loadPaths(rear + paths);
-        QCOMPARE(files.rowCount(), 5);
-        QCOMPARE(files.getCanPlayFileCount(), 5); // "All Type" shows even the unknown type
-        popUp.toggle(4)->onClickedButton();
-        QCOMPARE(files.typeMask(), 11);
-        QCOMPARE(RecordingList::visibleRows, (QVector<int>{0, 1, 3}));
-        QCOMPARE(comboText(combo), QString("  Filter"));
-        QCOMPARE(comboIcons(combo), (QStringList{"I", "E", "U"}));
-        // A new load keeps the choice.
-        files.loadPaths({paths.at(0), paths.at(2)});
-        QCOMPARE(RecordingList::visibleRows, QVector<int>{0});
-        for (int bit : {1, 2, 8})
-            popUp.toggle(bit)->onClickedButton();
-        QCOMPARE(files.typeMask(), 0);
-        QCOMPARE(files.getCanPlayFileCount(), 0);
-        QVERIFY(files.isRowHidden(0) && files.isRowHidden(1));
-
-        // A click in the list closes the pop-up.
-        files.show();
-        QTest::mouseClick(files.viewport(), Qt::LeftButton, {}, QPoint(5, 5));
-        QVERIFY(!popUp.isListShown());
-        QVERIFY(!combo.findChild<QPushButton*>("bOpenList")->isChecked());
-    }
 };
 
 QTEST_MAIN(TestFileList)

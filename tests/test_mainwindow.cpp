@@ -483,9 +483,13 @@ private slots:
         QCOMPARE(RecordingList::visibleRows.size(), 4);
         QCOMPARE(child<QLabel>("textState")->text(), QString("  All Type"));
         QCOMPARE(list->mask(), 15);
-        // A choice in the pop-up that no button stands for leaves none of them chosen.
+        // A choice in the pop-up that no button stands for leaves none of them chosen; a
+        // new load keeps the choice.
         list->toggle(8)->click();
         QCOMPARE(RecordingList::visibleRows.size(), 3);
+        emit m_window->onSendFileList(paths);
+        QTRY_COMPARE(RecordingList::records.size(), 4);
+        QCOMPARE(RecordingList::visibleRows, (QVector<int>{0, 1, 2}));
         for (const char* name : {"bAllType", "bInfinity", "bParking", "bEvent"})
             QVERIFY2(!child<TavTypeButton>(name)->isChecked(), name);
         emit m_window->onSendClear();
