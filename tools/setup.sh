@@ -25,8 +25,9 @@ tavoric_install_packages() {
     # theirs (Debian's npm would conflict with it).
     command -v npm >/dev/null 2>&1 || TAVORIC_PACKAGES+=(nodejs npm)
     local installed
-    installed=" $(dpkg-query -W -f='${Package}=${Status}\n' "${TAVORIC_PACKAGES[@]}" 2>/dev/null |
-        sed -n 's/=install ok installed$//p' | tr '\n' ' ') "
+    # dpkg-query fails when it does not know a package (one never installed): not an error.
+    installed=" $( (dpkg-query -W -f='${Package}=${Status}\n' "${TAVORIC_PACKAGES[@]}" 2>/dev/null ||
+        true) | sed -n 's/=install ok installed$//p' | tr '\n' ' ') "
     local package
     for package in "${TAVORIC_PACKAGES[@]}"; do
         [[ "$installed" == *" $package "* ]] || missing+=("$package")
