@@ -10,7 +10,9 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QFile>
 #include <QPixmap>
+#include <QRect>
 #include <QScreen>
 #include <QSettings>
 #include <QSocketNotifier>
@@ -92,6 +94,46 @@ void AppStartup::readStoredValues() {
         settings.setValue("version", AppGlobals::version);
         settings.sync();
     }
+}
+
+void AppStartup::readPlayerValues() {
+    const QSettings& settings = *AppGlobals::settings;
+    AppGlobals::volume = settings.value("volume", AppGlobals::volume).toInt();
+    AppGlobals::mute = settings.value("mute", AppGlobals::mute).toBool();
+    AppGlobals::snapshotPath = settings.value("snapshotPath").toString();
+    AppGlobals::videoPath = settings.value("videoPath").toString();
+    AppGlobals::speedUnit = settings.value("speedUnit", AppGlobals::speedUnit).toInt();
+}
+
+void AppStartup::saveValues(const QRect& frame) {
+    QSettings& settings = *AppGlobals::settings;
+    settings.setValue("width", frame.width());
+    settings.setValue("height", frame.height());
+    settings.setValue("geoX", frame.x());
+    settings.setValue("geoY", frame.y());
+    settings.setValue("language", AppGlobals::languageIndex);
+    settings.setValue("volume", AppGlobals::volume);
+    settings.setValue("mute", AppGlobals::mute);
+    settings.setValue("snapshotPath", AppGlobals::snapshotPath);
+    settings.setValue("videoPath", AppGlobals::videoPath);
+    settings.setValue("version", AppGlobals::version);
+    settings.sync();
+}
+
+void AppStartup::removeDataFolderLeftovers() {
+    // The snapshot folder is spelled two ways by different views; on a case-sensitive file
+    // system they are two folders.
+    for (const char* folder : {"/Thumbs", "/snapshot", "/Snapshot", "/CONFIG"}) {
+        QDir dir(AppGlobals::dataFolder + QLatin1String(folder));
+        if (dir.exists())
+            dir.removeRecursively();
+    }
+}
+
+void AppStartup::removeStatusLog() {
+    const QString log = AppGlobals::statusLogPath();
+    if (QFile::exists(log) && !QFile::remove(log))
+        logError("[MainWindow]: Can not delete log File.");
 }
 
 int AppStartup::run(int& argc, char** argv) {

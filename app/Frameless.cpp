@@ -61,6 +61,15 @@ void Frameless::updateMonitorSize() {
     }
 }
 
+void Frameless::placeCentred(const QSize& size) {
+    m_window->resize(size);
+    if (const QScreen* screen = QGuiApplication::primaryScreen()) {
+        const QRect screenRect = screen->geometry();
+        m_window->move(screenRect.x() + (screenRect.width() - size.width()) / 2,
+                       screenRect.y() + (screenRect.height() - size.height()) / 2);
+    }
+}
+
 int Frameless::edgesAt(const QPoint& pos, const QSize& size) {
     int edges = None;
     if (pos.x() >= 0 && pos.x() < kEdgeWidth)

@@ -28,6 +28,8 @@ public:
     bool toggleAlwaysOnTop();
     // The primary screen's size and free area, read anew (a screen changed).
     void updateMonitorSize();
+    // The window at size, in the middle of the primary screen.
+    void placeCentred(const QSize& size);
     QRect availableGeometry() const { return m_availableGeometry; }
 
     // Which edges of a widget of the given size a point lies on (a corner is two edges).

@@ -1,38 +1,18 @@
 #pragma once
 
+#include "MainParts.h"
+
 #include <QMainWindow>
 #include <QRect>
 #include <QSize>
 
-class ChartView;
-class CardSession;
-class ExportSession;
 class Frameless;
-class LeftSideView;
-class MapView;
-class PlayControlView;
-class PlayScreenWindow;
-class PlayerInterface;
-class SubPlayerWindow;
-class SubSceneBackWidget;
-class TavFileComboBox;
-class TavFileListItem;
-class TavTypeList;
-class QImage;
-class QPushButton;
-class QStackedWidget;
-class RightSideView;
 class ServiceSession;
-class TavShortcutTable;
-class TavTypeButton;
-class TavWidget;
-class TopBar;
-class WaitPlayLogo;
 
 // The one top-level window. It checks the privacy agreement before anything is shown,
 // builds its children from the "MainWindow" description, wires the views to each other,
 // and at the end saves the settings and cleans the data folder. Views never call each
-// other; every route between them is made in connectViews().
+// other; the routes that end here are made in connectViews(), the others in ViewWiring.
 class MainWindow : public QMainWindow {
     Q_OBJECT
 public:
@@ -42,8 +22,7 @@ public:
     explicit MainWindow(QWidget* parent = nullptr);
     ~MainWindow() override;
 
-
-    PlayerInterface* player() const { return m_player; }
+    PlayerInterface* player() const { return m_parts.player; }
     // The companion service: the version check after the window shows starts there.
     ServiceSession* service() const { return m_service; }
 
@@ -118,39 +97,10 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void setupUi();
     void connectViews();
-    void connectControlView();
-    void connectTelemetryViews();
-    void makeShortcuts();
-    void saveSettings();
-    void removeDataFolderLeftovers();
-    // Connects a row of the wiring only when both ends are built and enabled.
-    bool enabled(const char* entry) const;
+    void connectTypeFilter();
 
-    TavWidget* m_central = nullptr;
-    TopBar* m_topBar = nullptr;
-    LeftSideView* m_leftSide = nullptr;
-    RightSideView* m_rightSide = nullptr;
-    TavShortcutTable* m_shortcuts = nullptr;
-    QStackedWidget* m_stack = nullptr;
-    WaitPlayLogo* m_logo = nullptr;
-    QPushButton* m_fileListButton = nullptr;
-    QPushButton* m_mapButton = nullptr;
-    MapView* m_map = nullptr;
-    ChartView* m_chart = nullptr;
-    TavFileListItem* m_fileList = nullptr;
-    TavFileComboBox* m_fileCombo = nullptr;
-    TavTypeList* m_typeList = nullptr;
-    PlayScreenWindow* m_playScreen = nullptr;
-    SubSceneBackWidget* m_subBack = nullptr;
-    SubPlayerWindow* m_subPlayers[2] = {nullptr, nullptr};
-    PlayControlView* m_control = nullptr;
-    // "bAllType", "bInfinity", "bParking", "bEvent".
-    TavTypeButton* m_typeButtons[4] = {nullptr, nullptr, nullptr, nullptr};
-    PlayerInterface* m_player = nullptr;
-    CardSession* m_card = nullptr;
-    ExportSession* m_export = nullptr;
+    MainParts m_parts;
     ServiceSession* m_service = nullptr;
 
     bool m_agreementAccepted = false;
