@@ -1,16 +1,20 @@
 #include "FileListLoader.h"
 
-#include "CameraCountDelegate.h"
 #include "NameSchemes.h"
 #include "PlaybackState.h"
 #include "RecordingBatch.h"
 #include "RecordingName.h"
+#include "RecordingRows.h"
 #include "StatusLog.h"
 #include "TavFileListItem.h"
 #include "TavPrompt.h"
 
 #include <QDir>
+#include <QDropEvent>
 #include <QFileInfo>
+#include <QMimeData>
+#include <QTimer>
+#include <QUrl>
 
 #include <algorithm>
 
@@ -119,8 +123,7 @@ void FileListLoader::append(RecordingRecord record) {
         record.cameraCount = length.videoCount;
     RecordingList::records.append(record);
     m_list.insertRow(record.row);
-    fillRow(record.row, record);
-    m_list.markProblem(record.row);
+    RecordingRows::fill(&m_list, record.row, record);
     RecordingList::rebuildVisibleRows();
 }
 
@@ -132,25 +135,17 @@ void FileListLoader::replaceWith(const QVector<RecordingRecord>& batch) {
     m_list.clearContents();
     m_list.setRowCount(batch.size());
     for (int i = 0; i < batch.size(); ++i)
-        fillRow(i, batch[i]);
+        RecordingRows::fill(&m_list, i, batch[i]);
     m_list.setUpdatesEnabled(true);
     RecordingList::rebuildVisibleRows();
     m_list.startLengthReader();
 }
 
-void FileListLoader::fillRow(int row, const RecordingRecord& record) {
-    auto* type = new QTableWidgetItem(RecordingName::typeLabel(record.type));
-    type->setTextAlignment(Qt::AlignCenter);
-    m_list.setItem(row, TavFileListItem::TypeColumn, type);
-    auto* name = new QTableWidgetItem(record.displayName);
-    name->setTextAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    name->setData(CameraCountDelegate::kCameraCountRole, record.cameraCount);
-    if (!record.thumbPath.isEmpty())
-        name->setToolTip(TavFileListItem::thumbnailToolTip(record.thumbPath));
-    m_list.setItem(row, TavFileListItem::NameColumn, name);
-    auto* length = new QTableWidgetItem(record.durationText);
-    length->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    m_list.setItem(row, TavFileListItem::LengthColumn, length);
-    // New rows obey the filter in force at once.
-    m_list.setRowHidden(row, !RecordingList::passes(row));
+void FileListLoader::takeDrop(QDropEvent* event) {
+    QStringList paths;
+    for (const QUrl& url : event->mimeData()->urls())
+        if (url.isLocalFile())
+            paths << url.toLocalFile();
+    event->acceptProposedAction();
+    QTimer::singleShot(0, &m_list, [this, paths] { loadPaths(paths); });
 }

@@ -7,6 +7,7 @@
 #include <QStringList>
 #include <QVector>
 
+class QDropEvent;
 class TavFileListItem;
 
 // How the file list takes recordings in: the paths of a drop, the dialogs, a folder or the
@@ -21,6 +22,9 @@ public:
     // Files and folders: a folder gives its files, as the open-folder dialog does, and like
     // that dialog stops what plays.
     void loadPaths(const QStringList& paths);
+    // The local files and folders of a drop, loaded once the drop has returned (a message
+    // box inside the drop would hold the dragging application too).
+    void takeDrop(QDropEvent* event);
     // The files of a folder chosen in the open-folder dialog.
     void loadFolder(const QString& folder);
     // The common loader. listedFolders: the folders (RecordingBatch::folderOf) whose every
@@ -37,7 +41,6 @@ private:
     static bool isListed(const RecordingRecord& record);
     void append(RecordingRecord record);
     void replaceWith(const QVector<RecordingRecord>& batch);
-    void fillRow(int row, const RecordingRecord& record);
 
     TavFileListItem& m_list;
 };

@@ -27,6 +27,17 @@ QList<int> FileListRemover::selectedRows() const {
     return rows;
 }
 
+void FileListRemover::deleteCurrent() {
+    if (!RecordingList::hasCurrent()) {
+        logInfo("[TavFileListItem]: no Item.");
+        return;
+    }
+    emit m_list.onSendStop(3);
+    m_list.dropRow(RecordingList::currentIndex);
+    m_list.resetPressState();
+    emit m_list.onSetBlockEvent(false);
+}
+
 void FileListRemover::deleteSelected(bool fromDisk) {
     const QList<int> rows = selectedRows();
     if (rows.isEmpty()) {

@@ -20,6 +20,9 @@ public:
     explicit FileListRemover(TavFileListItem& list);
 
     void deleteSelected(bool fromDisk);
+    // The panel's delete: the playing recording leaves the list (not the disk), without a
+    // question.
+    void deleteCurrent();
 
     // Deletes a recording's files and its thumbnail; returns the files still on disk.
     static QStringList deleteFiles(const RecordingRecord& record);

@@ -1,50 +1,39 @@
 #include "TavFileListItem.h"
 
-#include "CameraCountDelegate.h"
+#include "EngineState.h"
 #include "FileListLoader.h"
 #include "FileListRemover.h"
-#include "ItemInfoThread.h"
+#include "LengthProgressBar.h"
 #include "LengthReading.h"
 #include "PlaybackState.h"
 #include "RecordingName.h"
+#include "RecordingRows.h"
 #include "StatusLog.h"
 #include "TavPrompt.h"
-#include "TypeIconDelegate.h"
-#include "UiApplier.h"
+#include "ThumbnailFeed.h"
 #include "UiDescription.h"
-#include "EngineState.h"
 
 #include <QAction>
-#include <QColor>
 #include <QDragEnterEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMimeData>
-#include <QProgressBar>
 #include <QScrollBar>
 #include <QTimer>
-#include <QUrl>
-
-#include <algorithm>
 
 namespace {
-
-// A reading that ends sooner than this never shows the progress bar, so short loads do not
-// flicker.
-constexpr int kProgressDelayMs = 300;
-// Scrolling asks for thumbnails once it settles, not on every pixel.
-constexpr int kThumbnailDelayMs = 150;
 
 const char* const kListView = "TavFileListItem";
 
 } // namespace
 
 TavFileListItem::TavFileListItem(QWidget* parent)
-    : TavTableWidget(parent), m_thumbTimer(new QTimer(this)),
-      m_progress(new QProgressBar(horizontalHeader())), m_progressTimer(new QTimer(this)),
-      m_lengths(new LengthReading(this)), m_loader(new FileListLoader(*this)),
-      m_remover(new FileListRemover(*this)) {
+    : TavTableWidget(parent), m_lengths(new LengthReading(this)),
+      m_thumbs(new ThumbnailFeed(this, [this] { return m_lengths->isReading(); })),
+      m_progress(
+          new LengthProgressBar(horizontalHeader(), [this] { return m_lengths->isReading(); })),
+      m_loader(new FileListLoader(*this)), m_remover(new FileListRemover(*this)) {
     logInfo("[TavFileListItem]: Enter TavFileListItem class.");
     // The one list of the program starts empty, every type shown.
     RecordingList::clear();
@@ -57,13 +46,10 @@ TavFileListItem::TavFileListItem(QWidget* parent)
     setDropIndicatorShown(false);
     setupUi();
 
-    m_thumbTimer->setSingleShot(true);
-    m_thumbTimer->setInterval(kThumbnailDelayMs);
-    m_progressTimer->setSingleShot(true);
-    m_progressTimer->setInterval(kProgressDelayMs);
-    connect(m_thumbTimer, &QTimer::timeout, this, &TavFileListItem::requestThumbnails);
-    connect(m_progressTimer, &QTimer::timeout, this,
-            [this] { showProgress(m_lengths->isReading()); });
+    connect(m_thumbs, &ThumbnailFeed::thumbnailReady, this, [this](int row, const QString& path) {
+        if (QTableWidgetItem* name = item(row, NameColumn))
+            name->setToolTip(ThumbnailFeed::toolTip(path));
+    });
     connect(m_lengths, &LengthReading::lengthsRead, this, &TavFileListItem::onLengthsRead);
     connect(m_lengths, &LengthReading::finished, this, &TavFileListItem::onLengthsFinished);
     connect(verticalScrollBar(), &QScrollBar::valueChanged, this,
@@ -86,27 +72,10 @@ void TavFileListItem::setupUi() {
     applyColumnWidth(ui, TypeColumn, QStringLiteral("columnType"));
     applyColumnWidth(ui, LengthColumn, QStringLiteral("columnLength"));
     horizontalHeader()->setSectionResizeMode(NameColumn, QHeaderView::Stretch);
-    const UiItem icon = ui.item(QStringLiteral("typeIcon"));
-    m_typeDelegate = new TypeIconDelegate(icon.size.isValid() ? icon.size : QSize(16, 16), this);
-    setItemDelegateForColumn(TypeColumn, m_typeDelegate);
-    const UiItem count = ui.item(QStringLiteral("cameraCount"));
-    CameraCountDelegate::Look look;
-    look.iconPath = ui.imageFolder() + count.image[UiItem::Default];
-    if (count.size.isValid())
-        look.iconSize = count.size;
-    look.font = count.font;
-    look.color = QColor(count.textColor[UiItem::Default]);
-    look.selectedColor = QColor(count.textColor[UiItem::Select]);
-    m_nameDelegate = new CameraCountDelegate(look, this);
-    setItemDelegateForColumn(NameColumn, m_nameDelegate);
+    RecordingRows::installPainters(this, ui);
 
     const UiItem progress = ui.item(QStringLiteral("loadProgress"));
-    UiApplier::apply(m_progress, QStringLiteral("loadProgress"), progress,
-                     progressStyleSheet(progress));
-    m_progress->hide();
-    // The bar sits on the table's header, which shows only while lengths are read; its
-    // font gives the header its height.
-    horizontalHeader()->setFont(progress.font);
+    m_progress->applyLook(QStringLiteral("loadProgress"), progress, progressStyleSheet(progress));
 
     const UiItem menu = ui.item(QStringLiteral("contextMenu"));
     m_menu = new QMenu(this);
@@ -142,7 +111,7 @@ void TavFileListItem::recvReqFileOpen() {
                                                    tr("Movie file (*.avi *.mp4)"));
     // A cancelled dialog is not an empty load: nothing to tell the user.
     if (!paths.isEmpty())
-        onLoadItem(paths);
+        m_loader->load(paths);
 }
 
 void TavFileListItem::onOpenFolderDlg() {
@@ -158,18 +127,8 @@ void TavFileListItem::onOpenFolderDlg() {
 void TavFileListItem::onReceiveFileList(const QStringList& paths) {
     logInfo("[TavFileListItem]: receive files from SDCard Control Widget.");
     resetList();
-    onLoadItem(paths);
-}
-
-void TavFileListItem::onLoadItem(const QStringList& paths) {
     m_loader->load(paths);
 }
-
-QString TavFileListItem::thumbnailToolTip(const QString& path) {
-    return QStringLiteral("<img src=\"%1\">").arg(path.toHtmlEscaped());
-}
-
-// ---- Type filter ----
 
 void TavFileListItem::onSortFile(int mask) {
     logDebug("TavFileListItem::onSortFile");
@@ -181,32 +140,13 @@ void TavFileListItem::onSortFile(int mask) {
 
 // ---- Current recording and stepping ----
 
-// With nothing current both directions start at the first shown row.
-void TavFileListItem::markProblem(int row) {
-    if (row < 0 || row >= records.size())
-        return;
-    const RecordingRecord& record = records.at(row);
-    if (record.problem == RecordingName::NoProblem)
-        return;
-    const QString reason = RecordingName::problemText(record.problem);
-    for (int column = 0; column < ColumnCount; ++column) {
-        if (QTableWidgetItem* cell = item(row, column)) {
-            cell->setForeground(QColor(0xe0, 0x6c, 0x6c));
-            if (column != NameColumn || record.thumbPath.isEmpty())
-                cell->setToolTip(reason);
-        }
-    }
-    if (QTableWidgetItem* length = item(row, LengthColumn))
-        length->setText(QStringLiteral("--:--"));
-}
-
 bool TavFileListItem::isPlayable(int index) {
     RecordingRecord& record = records[index];
     // A row played before its length came: its file is read now.
     if (record.durationText.isEmpty() && record.problem == RecordingName::NoProblem) {
         const RecordingName::Length length = RecordingName::readLength(record.filePath);
         record.problem = length.problem;
-        markProblem(index);
+        RecordingRows::markProblem(this, index);
     }
     return record.problem == RecordingName::NoProblem;
 }
@@ -240,11 +180,8 @@ void TavFileListItem::onForwardItemSet() {
     logInfo("[TavFileListItem]: change select item to forward.");
     // Playback moves on by itself past rows that cannot be played, without a word.
     int next = nextRow();
-    while (next >= 0 && !isPlayable(next)) {
-        const auto later = std::find_if(visibleRows.cbegin(), visibleRows.cend(),
-                                        [next](int row) { return row > next; });
-        next = later == visibleRows.cend() ? -1 : *later;
-    }
+    while (next >= 0 && !isPlayable(next))
+        next = shownRowAfter(next);
     if (next < 0) {
         // Playback ran to the end of the last shown row by itself: the player simply stays
         // stopped at the logo. A message box here would greet a user who walked away.
@@ -290,12 +227,8 @@ int TavFileListItem::getCanPlayFileCount() {
     return visibleRows.size();
 }
 
-bool TavFileListItem::isReadingThumbnails() const {
-    return m_itemInfo != nullptr && m_itemInfo->isBusy();
-}
-
 QString TavFileListItem::getLoadingFileName() {
-    return m_itemInfo != nullptr ? m_itemInfo->currentPath() : QString();
+    return m_thumbs->currentPath();
 }
 
 void TavFileListItem::onBlockEvent(bool block) {
@@ -318,7 +251,7 @@ void TavFileListItem::resetList() {
     setRowCount(0);
     RecordingList::clear();
     resetPressState();
-    m_thumbRequested.clear();
+    m_thumbs->clearRequests();
     emit onSendLogoSet(true);
     emit onSetBlockEvent(false);
 }
@@ -335,14 +268,7 @@ void TavFileListItem::dropRow(int row) {
 
 void TavFileListItem::onDeleteCurrentFile() {
     logDebug("TavFileListItem::onDeleteCurrentFile");
-    if (!hasCurrent()) {
-        logInfo("[TavFileListItem]: no Item.");
-        return;
-    }
-    emit onSendStop(3);
-    dropRow(RecordingList::currentIndex);
-    resetPressState();
-    emit onSetBlockEvent(false);
+    m_remover->deleteCurrent();
 }
 
 void TavFileListItem::onDeleteSelectedAtList() {
@@ -451,14 +377,7 @@ void TavFileListItem::dropEvent(QDropEvent* event) {
 
 void TavFileListItem::takeDrop(QDropEvent* event) {
     logInfo("[TavFileListItem]: items are dropped in list.");
-    QStringList paths;
-    for (const QUrl& url : event->mimeData()->urls())
-        if (url.isLocalFile())
-            paths << url.toLocalFile();
-    event->acceptProposedAction();
-    // Loaded once the drop has returned: a message box inside the drop would hold the
-    // dragging application too.
-    QTimer::singleShot(0, this, [this, paths] { loadPaths(paths); });
+    m_loader->takeDrop(event);
 }
 
 void TavFileListItem::resizeEvent(QResizeEvent* event) {
@@ -468,151 +387,62 @@ void TavFileListItem::resizeEvent(QResizeEvent* event) {
 
 void TavFileListItem::updateGeometries() {
     TavTableWidget::updateGeometries();
-    m_progress->setGeometry(horizontalHeader()->rect());
+    m_progress->fitStrip();
 }
 
 // ---- Lengths ----
 
 void TavFileListItem::cancelLengthReader() {
     m_lengths->cancel();
-    showProgress(false);
+    m_progress->showStrip(false);
 }
 
 void TavFileListItem::startLengthReader() {
     QStringList paths;
     for (const RecordingRecord& record : records)
         paths << record.filePath;
-    m_progress->setRange(0, paths.size());
-    m_progress->setValue(0);
-    m_progressTimer->start();
+    m_progress->begin(paths.size());
     m_lengths->start(paths);
 }
 
 void TavFileListItem::onLengthsRead(int first, const QStringList& texts,
                                     const QVector<int>& videoCounts, const QVector<int>& problems) {
-    for (int k = 0; k < texts.size() && first + k < m_lengths->total(); ++k) {
-        const int index = indexOf(m_lengths->pathAt(first + k), first + k);
-        if (index < 0)
-            continue;
-        records[index].durationText = texts.at(k);
-        if (QTableWidgetItem* length = item(index, LengthColumn))
-            length->setText(texts.at(k));
-        setVideoCount(index, videoCounts.value(k));
-        records[index].problem = problems.value(k);
-        markProblem(index);
-    }
+    for (int k = 0; k < texts.size() && first + k < m_lengths->total(); ++k)
+        RecordingRows::setLength(this, indexOf(m_lengths->pathAt(first + k), first + k),
+                                 texts.at(k), videoCounts.value(k), problems.value(k));
     m_progress->setValue(m_lengths->done());
     emit onSendReadProgress(m_lengths->done(), m_lengths->total());
 }
 
 void TavFileListItem::onLengthsFinished(qint64 elapsedMs) {
     logInfo("getFileTime elapsed time: %lld ms", static_cast<long long>(elapsedMs));
-    showProgress(false);
+    m_progress->showStrip(false);
     scheduleThumbnails();
     emit onSendFinishReadFileTime();
-}
-
-void TavFileListItem::setVideoCount(int index, int videoCount) {
-    RecordingRecord& record = records[index];
-    // A recording of channel files counts its files, which are what the player opens.
-    if (record.hasChannelFiles() || record.cameraCount == videoCount)
-        return;
-    record.cameraCount = videoCount;
-    if (QTableWidgetItem* name = item(index, NameColumn))
-        name->setData(CameraCountDelegate::kCameraCountRole, videoCount);
 }
 
 void TavFileListItem::onFinishReadFileTime() {
     logInfo("onFinishReadFileTime");
     for (int i = 0; i < records.size() && i < rowCount(); ++i)
-        if (QTableWidgetItem* length = item(i, LengthColumn)) {
-            length->setText(records.at(i).durationText);
-            length->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
-            markProblem(i);
-        }
-}
-
-void TavFileListItem::showProgress(bool show) {
-    const bool shown = show && m_progress->isEnabled();
-    horizontalHeader()->setVisible(shown);
-    m_progress->setVisible(shown);
-    m_progress->setGeometry(horizontalHeader()->rect());
+        RecordingRows::showLength(this, i);
 }
 
 // ---- Thumbnails ----
 
 void TavFileListItem::scheduleThumbnails() {
-    if (!records.isEmpty())
-        m_thumbTimer->start();
-}
-
-void TavFileListItem::requestThumbnails() {
-    // Lengths go first (a column, not a tool tip); the end of their reading asks again.
-    if (records.isEmpty() || rowCount() == 0 || m_lengths->isReading())
-        return;
-    // The rows on screen; rowAt gives -1 above the first and below the last row.
-    const int first = qMax(0, rowAt(0));
-    const int bottom = rowAt(viewport()->height() - 1);
-    const int last = bottom < 0 ? rowCount() - 1 : bottom;
-    QVector<ItemInfoThread::Job> jobs;
-    auto ask = [&](int row) {
-        if (row < 0 || row >= records.size() || isRowHidden(row))
-            return;
-        const RecordingRecord& record = records.at(row);
-        if (record.thumbPath.isEmpty() && !m_thumbRequested.contains(record.filePath)) {
-            m_thumbRequested.insert(record.filePath);
-            jobs.append({record.filePath, row});
-        }
-    };
-    if (hasCurrent())
-        ask(RecordingList::currentIndex);
-    for (int row = first; row <= last && row < records.size(); ++row)
-        ask(row);
-    if (jobs.isEmpty())
-        return;
-    if (m_itemInfo == nullptr) {
-        m_itemInfo = new ItemInfoThread(this);
-        connect(m_itemInfo, &ItemInfoThread::onSendUpdateThumbnail, this,
-                &TavFileListItem::onUpdateData, Qt::QueuedConnection);
-    }
-    m_itemInfo->addJobs(jobs);
+    m_thumbs->schedule();
 }
 
 void TavFileListItem::onUpdateData(const QString& path, int index) {
     logDebug("TavFileListItem::onUpdateData");
-    // Rows may have moved since the thumbnail was asked for; the thumbnail's name tells
-    // whose it is.
-    int found = -1;
-    if (index >= 0 && index < records.size() &&
-        ItemInfoThread::thumbnailPath(records.at(index).filePath) == path)
-        found = index;
-    for (int i = 0; found < 0 && i < records.size(); ++i)
-        if (ItemInfoThread::thumbnailPath(records.at(i).filePath) == path)
-            found = i;
-    if (found < 0) {
-        logWarning("[TavFileListItem]: thumbnail of a removed row.");
-        return;
-    }
-    records[found].thumbPath = path;
-    if (QTableWidgetItem* name = item(found, NameColumn))
-        name->setToolTip(thumbnailToolTip(path));
+    m_thumbs->onMade(path, index);
 }
 
 void TavFileListItem::stopItemInfoThread() {
-    if (m_itemInfo == nullptr)
-        return;
-    m_itemInfo->stop();
-    // stop() kills a running ffmpeg, so the thread ends within a few milliseconds.
-    m_itemInfo->wait();
-    delete m_itemInfo;
-    m_itemInfo = nullptr;
-    // Whatever was asked for and not made yet is asked for again by the next thread.
-    m_thumbRequested.clear();
+    m_thumbs->stop();
 }
 
 void TavFileListItem::onFinishThread() {
     logInfo("[TavFileListItem]: onFinishThread");
-    if (m_itemInfo != nullptr)
-        m_itemInfo->exit(0);
-    stopItemInfoThread();
+    m_thumbs->stop();
 }

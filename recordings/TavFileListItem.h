@@ -3,23 +3,19 @@
 #include "RecordingList.h"
 #include "RecordingRecord.h"
 #include "TavTableWidget.h"
+#include "ThumbnailFeed.h"
 
-#include <QSet>
 #include <QStringList>
 #include <QVector>
 
 #include <memory>
 
-class CameraCountDelegate;
 class FileListLoader;
 class FileListRemover;
-class ItemInfoThread;
+class LengthProgressBar;
 class LengthReading;
 class QAction;
 class QMenu;
-class QProgressBar;
-class QTimer;
-class TypeIconDelegate;
 
 // The table of recordings beside the player: one row per recording with its type icon, its
 // name with the number of its cameras, and its length. A recording of one MP4 file per
@@ -37,8 +33,8 @@ class TypeIconDelegate;
 //
 // Lengths are read by pool threads after a many-file load and arrive in chunks, with the
 // video tracks that count a one-file recording's cameras; a progress bar in the list's
-// header strip shows how far it got. Thumbnails (row tool tips) are made by an
-// ItemInfoThread for the rows on screen, as they come into view.
+// header strip shows how far it got. Thumbnails (row tool tips) come from a ThumbnailFeed
+// for the rows on screen, as they come into view.
 class QDropEvent;
 
 class TavFileListItem : public TavTableWidget, public RecordingList {
@@ -56,7 +52,6 @@ public:
     // Lists the local files and folders of a drop, on the list or elsewhere in the window,
     // once the drop has returned.
     void takeDrop(QDropEvent* event);
-
 
 signals:
     // The recording the user (or playback moving on) chose to play: its front file.
@@ -116,26 +111,20 @@ private slots:
 public:
     // For the loader and the remover, which change the recordings: the rows of the table
     // follow them.
-    // A row whose file cannot be played says so: its texts dimmed red, the reason as its
-    // tool tip and "--:--" for its length.
-    void markProblem(int row);
-    // The tool tip of a row whose thumbnail is at path.
-    static QString thumbnailToolTip(const QString& path);
     // Takes a record and its table row out of the list.
     void dropRow(int row);
     // Thumbnails are asked for anew (a load replaced the rows).
-    void clearThumbnailRequests() { m_thumbRequested.clear(); }
+    void clearThumbnailRequests() { m_thumbs->clearRequests(); }
     void resetList();
     void resetPressState();
     void stopItemInfoThread();
     void startLengthReader();
     void cancelLengthReader();
     void scheduleThumbnails();
-    bool isReadingThumbnails() const;
+    bool isReadingThumbnails() const { return m_thumbs->isBusy(); }
 
 private:
     void setupUi();
-    void onLoadItem(const QStringList& paths);
     // Plays the row; one whose file cannot be played is not handed on, and the user is told
     // why when tell is set.
     void playItem(int index, bool tell = true);
@@ -145,11 +134,7 @@ private:
     void chooseRow(int row);
     void onLengthsRead(int first, const QStringList& texts, const QVector<int>& videoCounts,
                        const QVector<int>& problems);
-    // A one-file recording's cameras are its video tracks, known with its length.
-    void setVideoCount(int index, int videoCount);
     void onLengthsFinished(qint64 elapsedMs);
-    void requestThumbnails();
-    void showProgress(bool show);
 
     bool m_controlHeld = false;
     bool m_shiftHeld = false;
@@ -157,14 +142,9 @@ private:
     QMenu* m_menu = nullptr;
     QAction* m_deleteAtList = nullptr;
     QAction* m_deleteFromDisk = nullptr;
-    ItemInfoThread* m_itemInfo = nullptr;
-    QSet<QString> m_thumbRequested;
-    QTimer* m_thumbTimer;
-    TypeIconDelegate* m_typeDelegate = nullptr;
-    CameraCountDelegate* m_nameDelegate = nullptr;
-    QProgressBar* m_progress;
-    QTimer* m_progressTimer;
     LengthReading* m_lengths;
+    ThumbnailFeed* m_thumbs;
+    LengthProgressBar* m_progress;
     std::unique_ptr<FileListLoader> m_loader;
     std::unique_ptr<FileListRemover> m_remover;
 };
