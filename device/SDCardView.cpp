@@ -14,18 +14,8 @@
 #include <QTableWidget>
 
 SDCardView::SDCardView(QWidget* parent)
-    : QDialog(parent, Qt::Dialog | Qt::FramelessWindowHint),
-      m_form(new TavWidget("SDCardView", this)), m_table(new QTableWidget(m_form)) {
+    : TavDialog("SDCardView", parent), m_form(form()), m_table(new QTableWidget(m_form)) {
     logInfo("[SDCardView]: Enter SDCardView class.");
-    m_form->addChild(m_form, "centralWidget", TavWidget::Style::Panel);
-    if (m_form->designSize().isValid())
-        setFixedSize(m_form->designSize());
-    auto* top = new QWidget(m_form);
-    m_form->addChild(top, "topWidget", TavWidget::Style::Panel);
-    m_title = new QLabel(top);
-    m_form->addChild(m_title, "DlgName", TavWidget::Style::Label);
-    auto* close = new QPushButton(top);
-    m_form->addChild(close, "bClose", TavWidget::Style::Button);
     m_form->addChild(new QLabel(m_form), "context", TavWidget::Style::Label);
     m_form->addChild(m_table, "listsdCard", TavWidget::Style::Panel);
     auto* refresh = new QPushButton(m_form);
@@ -60,7 +50,6 @@ SDCardView::SDCardView(QWidget* parent)
                        " padding: 4px;}")
             .arg(look.textColor[UiItem::Default]));
 
-    connect(close, &QPushButton::clicked, this, &QDialog::reject);
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
     connect(refresh, &QPushButton::clicked, this, &SDCardView::loadMemory);
     connect(open, &QPushButton::clicked, this, &SDCardView::onClicked_bOpenFolder);
@@ -73,7 +62,7 @@ SDCardView::SDCardView(QWidget* parent)
 void SDCardView::retranslateUi() {
     m_form->retranslate();
     // The dialog has no frame of its own; the title still names its window for the desktop.
-    setWindowTitle(m_title->text());
+    setWindowTitle(title()->text());
     m_table->setHorizontalHeaderLabels(
         {tr("Drive"), tr("Name"), tr("Total"), tr("Used"), tr("Free")});
 }

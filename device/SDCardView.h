@@ -2,17 +2,17 @@
 
 #include "ConfigAccess.h"
 
-#include <QDialog>
+#include "TavDialog.h"
+
 #include <QStringList>
 
-class QLabel;
 class QTableWidget;
 class TavWidget;
 
 // The memory-card dialog: lists the removable drives that hold a camera configuration, and
 // opens the one the user picks: reads its configuration, collects its recordings and sends
 // their paths on with onSendSDCardFile().
-class SDCardView : public QDialog {
+class SDCardView : public TavDialog {
     Q_OBJECT
 public:
     enum Column { DriveColumn, NameColumn, TotalColumn, UsedColumn, FreeColumn, ColumnCount };
@@ -44,7 +44,6 @@ private:
 
     TavWidget* m_form;
     QTableWidget* m_table;
-    QLabel* m_title = nullptr;
     ConfigAccess m_config;
     QString m_drive;
     bool m_once = false;

@@ -7,7 +7,7 @@
 #include "TavPrompt.h"
 
 SettingOptCrashReport::SettingOptCrashReport(QWidget* parent)
-    : SettingOptPage("page_Crash Report", "crashTitle", parent),
+    : SettingOptServicePage("page_Crash Report", "crashTitle", QStringLiteral("Report"), parent),
       m_autoReport(new SettingOpt(
           record(QT_TRANSLATE_NOOP("SettingOpt", "Automatic Crash Reports"), SettingOpt::ToggleKind,
                  {},
@@ -17,29 +17,15 @@ SettingOptCrashReport::SettingOptCrashReport(QWidget* parent)
       m_send(new SettingOptAction(QT_TRANSLATE_NOOP("SettingOpt", "Send a Crash Report"),
                                   QT_TRANSLATE_NOOP("SettingOpt", "Send Now"), look(), "optAction",
                                   this)) {
-    m_autoReport->setValue(AppGlobals::autoCrashReports ? 1 : 0);
-    connect(m_autoReport, &SettingOpt::onSendValueChanged, this, [](const QString&, int value) {
-        AppGlobals::storeAgreement(AppGlobals::updateChecksAllowed, value != 0);
-        ServiceRequest::tell(QStringLiteral("updateAgreement"));
-    });
-    connect(m_send, &SettingOptAction::clicked, this, &SettingOptCrashReport::onClickSend);
-    connect(&m_request, &ServiceRequest::onSendAnswer, this, &SettingOptCrashReport::onRecvMessage);
-    connect(&m_request, &ServiceRequest::onSendFailed, m_send, &SettingOptAction::showFailure);
-    addRows({m_autoReport, m_send});
-    retranslate();
-}
-
-void SettingOptCrashReport::retranslate() {
-    SettingOptPage::retranslate();
-    m_autoReport->retranslate();
-    m_send->retranslate();
-    m_send->showLinkState();
+    setRows(
+        {}, m_autoReport, AppGlobals::autoCrashReports,
+        [](bool allowed) { AppGlobals::storeAgreement(AppGlobals::updateChecksAllowed, allowed); },
+        m_send);
 }
 
 void SettingOptCrashReport::onClickSend() {
     logDebug("SettingOptCrashReport::onClickSend");
-    if (m_request.send(QStringLiteral("Report")))
-        m_send->showWaiting();
+    ask();
 }
 
 void SettingOptCrashReport::onRecvMessage(const QString& message) {

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "ServiceRequest.h"
-#include "SettingOptPage.h"
+#include "SettingOptServicePage.h"
 
 class SettingOpt;
 class SettingOptAction;
@@ -9,7 +8,7 @@ class SettingOptAction;
 // The settings dialog's crash-report page. The status log outlives only an abnormal end;
 // the service sends it, on its own when the user allowed automatic reports, or now with
 // "Send Now" ("Report", answered "Send_Complete").
-class SettingOptCrashReport : public SettingOptPage {
+class SettingOptCrashReport : public SettingOptServicePage {
     Q_OBJECT
 public:
     explicit SettingOptCrashReport(QWidget* parent = nullptr);
@@ -17,15 +16,14 @@ public:
     SettingOpt* autoReportRow() const { return m_autoReport; }
     SettingOptAction* sendRow() const { return m_send; }
 
-    void retranslate() override;
-
 public slots:
     void onClickSend();
     void onRecvMessage(const QString& message);
 
+protected:
+    void answered(const QString& message) override { onRecvMessage(message); }
+
 private:
     SettingOpt* m_autoReport;
     SettingOptAction* m_send;
-    // A child, so that tests find it.
-    ServiceRequest m_request{this};
 };

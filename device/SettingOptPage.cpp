@@ -15,7 +15,7 @@ SettingOptPage::SettingOptPage(const QString& objectName, const char* titleEntry
     m_rows->addWidget(m_title);
 }
 
-void SettingOptPage::addRows(std::initializer_list<QWidget*> rows) {
+void SettingOptPage::addRows(const QList<QWidget*>& rows) {
     for (QWidget* row : rows)
         m_rows->addWidget(row);
     m_rows->addStretch(1);

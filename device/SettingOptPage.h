@@ -3,6 +3,7 @@
 #include "SettingRecord.h"
 #include "UiDescription.h"
 
+#include <QList>
 #include <QWidget>
 
 #include <initializer_list>
@@ -22,7 +23,8 @@ protected:
     SettingOptPage(const QString& objectName, const char* titleEntry, QWidget* parent);
 
     // The rows, in order, under the title.
-    void addRows(std::initializer_list<QWidget*> rows);
+    void addRows(std::initializer_list<QWidget*> rows) { addRows(QList<QWidget*>(rows)); }
+    void addRows(const QList<QWidget*>& rows);
     // The dialog's description, for the rows' look.
     const UiDescription& look() const { return m_look; }
     // A setting of the program itself, shown as a camera's setting row is; `name` and

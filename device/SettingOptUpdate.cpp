@@ -7,7 +7,7 @@
 #include "VersionText.h"
 
 SettingOptUpdate::SettingOptUpdate(QWidget* parent)
-    : SettingOptPage("page_Update", "updateTitle", parent),
+    : SettingOptServicePage("page_Update", "updateTitle", QStringLiteral("Version"), parent),
       m_version(new SettingOpt(
           record(QT_TRANSLATE_NOOP("SettingOpt", "Program Version"), SettingOpt::CardTextKind),
           look(), this)),
@@ -21,30 +21,15 @@ SettingOptUpdate::SettingOptUpdate(QWidget* parent)
                                        QT_TRANSLATE_NOOP("SettingOpt", "Update Now"), look(),
                                        "optAction", this)) {
     m_version->setCardText(AppGlobals::version);
-    m_updateCheck->setValue(AppGlobals::updateChecksAllowed ? 1 : 0);
-    connect(m_updateCheck, &SettingOpt::onSendValueChanged, this, [](const QString&, int value) {
-        AppGlobals::storeAgreement(value != 0, AppGlobals::autoCrashReports);
-        ServiceRequest::tell(QStringLiteral("updateAgreement"));
-    });
-    connect(m_updateNow, &SettingOptAction::clicked, this, &SettingOptUpdate::onClickUpdateNow);
-    connect(&m_request, &ServiceRequest::onSendAnswer, this, &SettingOptUpdate::onRecvMessage);
-    connect(&m_request, &ServiceRequest::onSendFailed, m_updateNow, &SettingOptAction::showFailure);
-    addRows({m_version, m_updateCheck, m_updateNow});
-    retranslate();
-}
-
-void SettingOptUpdate::retranslate() {
-    SettingOptPage::retranslate();
-    m_version->retranslate();
-    m_updateCheck->retranslate();
-    m_updateNow->retranslate();
-    m_updateNow->showLinkState();
+    setRows(
+        {m_version}, m_updateCheck, AppGlobals::updateChecksAllowed,
+        [](bool allowed) { AppGlobals::storeAgreement(allowed, AppGlobals::autoCrashReports); },
+        m_updateNow);
 }
 
 void SettingOptUpdate::onClickUpdateNow() {
     logDebug("SettingOptUpdate::onClickUpdateNow");
-    if (m_request.send(QStringLiteral("Version")))
-        m_updateNow->showWaiting();
+    ask();
 }
 
 void SettingOptUpdate::onRecvMessage(const QString& message) {

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "ServiceRequest.h"
-#include "SettingOptPage.h"
+#include "SettingOptServicePage.h"
 
 class SettingOpt;
 class SettingOptAction;
@@ -9,15 +8,13 @@ class SettingOptAction;
 // The settings dialog's update page: the program's version, whether the program asks for
 // a newer one at its start, and "Update Now", which asks the service ("Version") and offers
 // the update dialog when a newer version is out.
-class SettingOptUpdate : public SettingOptPage {
+class SettingOptUpdate : public SettingOptServicePage {
     Q_OBJECT
 public:
     explicit SettingOptUpdate(QWidget* parent = nullptr);
 
     SettingOpt* updateCheckRow() const { return m_updateCheck; }
     SettingOptAction* updateNowRow() const { return m_updateNow; }
-
-    void retranslate() override;
 
 signals:
     // A newer version is out; the main window opens the update dialog for it.
@@ -27,10 +24,11 @@ public slots:
     void onClickUpdateNow();
     void onRecvMessage(const QString& message);
 
+protected:
+    void answered(const QString& message) override { onRecvMessage(message); }
+
 private:
     SettingOpt* m_version;
     SettingOpt* m_updateCheck;
     SettingOptAction* m_updateNow;
-    // A child, so that tests find it.
-    ServiceRequest m_request{this};
 };
