@@ -227,7 +227,8 @@ RecordingName::Length RecordingName::readLength(const QString& path) {
         length.problem = startsLikeARecording(path) ? Damaged : NotAVideo;
         return length;
     }
-    const int seconds = qMax(0, reader.KDX_GetTotalRange() / 1000);
+    length.ms = qMax(0, reader.KDX_GetTotalRange());
+    const int seconds = int(length.ms / 1000);
     length.videoCount = qMax(0, reader.KDX_GetVideoTotalNum());
     reader.KDX_Close();
     if (length.videoCount == 0)
