@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Sets up, builds and runs the benchmarks (all of them, or those named: duration, telemetry,
-# foreign, filelist, chart, playback, export), one after the other, under a virtual X server
+# foreign, filelist, chart, playback, export, drives), one after the other, under a virtual X server
 # when there is no display. Each makes the recordings it needs on first use into
 # build/bench-media and prints its figures beside the baseline it measured in the same run.
 set -euo pipefail
@@ -8,7 +8,7 @@ source "$(dirname "${BASH_SOURCE[0]}")/setup.sh"
 tavoric_web_environment
 
 names=("$@")
-((${#names[@]})) || names=(duration telemetry foreign filelist chart playback export)
+((${#names[@]})) || names=(duration telemetry foreign filelist chart playback export drives)
 run() {
     if [ -n "${DISPLAY:-}" ]; then
         "$@"
