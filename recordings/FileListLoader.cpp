@@ -118,6 +118,7 @@ void FileListLoader::append(RecordingRecord record) {
     // One row's length is read at once; one reading gives a one-file recording's cameras too.
     const RecordingName::Length length = RecordingName::readLength(record.filePath);
     record.durationText = length.text;
+    record.durationMs = length.ms;
     record.problem = length.problem;
     if (!record.hasChannelFiles())
         record.cameraCount = length.videoCount;

@@ -15,27 +15,20 @@ LengthReader::LengthReader(const QStringList& paths, int offset, int batch,
 void LengthReader::run() {
     QElapsedTimer sinceChunk;
     sinceChunk.start();
-    QStringList chunk;
-    QVector<int> videoCounts;
-    QVector<int> problems;
+    QVector<RecordingName::Length> chunk;
     int first = 0;
     for (int i = 0; i < m_paths.size(); ++i) {
         if (m_cancel->load())
             return;
-        const RecordingName::Length length = RecordingName::readLength(m_paths.at(i));
-        chunk << length.text;
-        videoCounts << length.videoCount;
-        problems << length.problem;
+        chunk << RecordingName::readLength(m_paths.at(i));
         if (sinceChunk.elapsed() >= kChunkIntervalMs) {
-            emit lengthsRead(m_batch, m_offset + first, chunk, videoCounts, problems);
+            emit lengthsRead(m_batch, m_offset + first, chunk);
             first = i + 1;
             chunk.clear();
-            videoCounts.clear();
-            problems.clear();
             sinceChunk.restart();
         }
     }
     if (!chunk.isEmpty())
-        emit lengthsRead(m_batch, m_offset + first, chunk, videoCounts, problems);
+        emit lengthsRead(m_batch, m_offset + first, chunk);
     emit finished(m_batch);
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "RecordingName.h"
+
 #include <QObject>
 #include <QRunnable>
 #include <QStringList>
@@ -25,10 +27,8 @@ public:
     void run() override;
 
 signals:
-    // texts[i], videoCounts[i] and problems[i] are the length, the video tracks and the
-    // RecordingName::Problem of the recording at index first + i of the batch.
-    void lengthsRead(int batch, int first, const QStringList& texts,
-                     const QVector<int>& videoCounts, const QVector<int>& problems);
+    // lengths[i] is what the header of the recording at index first + i of the batch says.
+    void lengthsRead(int batch, int first, const QVector<RecordingName::Length>& lengths);
     void finished(int batch);
 
 private:

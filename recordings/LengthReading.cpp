@@ -6,6 +6,7 @@
 
 LengthReading::LengthReading(QObject* parent)
     : QObject(parent), m_cancel(std::make_shared<std::atomic<bool>>(false)) {
+    qRegisterMetaType<QVector<RecordingName::Length>>();
     // Reading a length is mostly parsing a file's header: one reader per core, and never
     // more than two, so that the window keeps a core when there are only two.
     m_pool.setMaxThreadCount(qBound(1, QThread::idealThreadCount(), 2));
@@ -45,12 +46,11 @@ void LengthReading::start(const QStringList& paths) {
     }
 }
 
-void LengthReading::onRead(int batch, int first, const QStringList& texts,
-                           const QVector<int>& videoCounts, const QVector<int>& problems) {
+void LengthReading::onRead(int batch, int first, const QVector<RecordingName::Length>& lengths) {
     if (batch != m_batch)
         return;
-    m_done += texts.size();
-    emit lengthsRead(first, texts, videoCounts, problems);
+    m_done += lengths.size();
+    emit lengthsRead(first, lengths);
 }
 
 void LengthReading::onReaderFinished(int batch) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "RecordingName.h"
+
 #include <QElapsedTimer>
 #include <QObject>
 #include <QStringList>
@@ -31,15 +33,12 @@ public:
     const QString& pathAt(int index) const { return m_paths.at(index); }
 
 signals:
-    // texts[i], videoCounts[i] and problems[i] are the length, the video tracks and the
-    // RecordingName::Problem of the batch's recording first + i.
-    void lengthsRead(int first, const QStringList& texts, const QVector<int>& videoCounts,
-                     const QVector<int>& problems);
+    // lengths[i] is what the header of the batch's recording first + i says.
+    void lengthsRead(int first, const QVector<RecordingName::Length>& lengths);
     void finished(qint64 elapsedMs);
 
 private:
-    void onRead(int batch, int first, const QStringList& texts, const QVector<int>& videoCounts,
-                const QVector<int>& problems);
+    void onRead(int batch, int first, const QVector<RecordingName::Length>& lengths);
     void onReaderFinished(int batch);
 
     QThreadPool m_pool;

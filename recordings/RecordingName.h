@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QMetaType>
 #include <QString>
 
 // What the viewer knows about a recording from its file name alone:
@@ -106,3 +107,5 @@ public:
     // channel letter or digit.
     static QString siblingChannelPath(const QString& path, int channel);
 };
+
+Q_DECLARE_METATYPE(RecordingName::Length)

@@ -46,13 +46,13 @@ void RecordingRows::fill(QTableWidget* table, int row, const RecordingRecord& re
     markProblem(table, row);
 }
 
-void RecordingRows::setLength(QTableWidget* table, int row, const QString& text, int videoCount,
-                              int problem) {
+void RecordingRows::setLength(QTableWidget* table, int row, const RecordingName::Length& length) {
     if (row < 0 || row >= RecordingList::records.size())
         return;
-    RecordingList::records[row].durationText = text;
-    RecordingList::records[row].problem = problem;
-    setVideoCount(table, row, videoCount);
+    RecordingList::records[row].durationText = length.text;
+    RecordingList::records[row].durationMs = length.ms;
+    RecordingList::records[row].problem = length.problem;
+    setVideoCount(table, row, length.videoCount);
     showLength(table, row);
 }
 

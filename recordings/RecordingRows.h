@@ -1,6 +1,7 @@
 #pragma once
 
-class QString;
+#include "RecordingName.h"
+
 class QTableWidget;
 class UiDescription;
 struct RecordingRecord;
@@ -16,8 +17,7 @@ public:
     static void fill(QTableWidget* table, int row, const RecordingRecord& record);
     // A length read for row's record (row -1: the record went meanwhile): kept in the record
     // and shown, with the cameras it counted and the problem it found.
-    static void setLength(QTableWidget* table, int row, const QString& text, int videoCount,
-                          int problem);
+    static void setLength(QTableWidget* table, int row, const RecordingName::Length& length);
     // Writes the row's length as its record has it, and marks the row when it cannot play.
     static void showLength(QTableWidget* table, int row);
     // A row whose file cannot be played says so: its texts dimmed red, the reason as its

@@ -146,6 +146,7 @@ bool TavFileListItem::isPlayable(int index) {
     if (record.durationText.isEmpty() && record.problem == RecordingName::NoProblem) {
         const RecordingName::Length length = RecordingName::readLength(record.filePath);
         record.problem = length.problem;
+        record.durationMs = length.ms;
         RecordingRows::markProblem(this, index);
     }
     return record.problem == RecordingName::NoProblem;
@@ -405,11 +406,10 @@ void TavFileListItem::startLengthReader() {
     m_lengths->start(paths);
 }
 
-void TavFileListItem::onLengthsRead(int first, const QStringList& texts,
-                                    const QVector<int>& videoCounts, const QVector<int>& problems) {
-    for (int k = 0; k < texts.size() && first + k < m_lengths->total(); ++k)
+void TavFileListItem::onLengthsRead(int first, const QVector<RecordingName::Length>& lengths) {
+    for (int k = 0; k < lengths.size() && first + k < m_lengths->total(); ++k)
         RecordingRows::setLength(this, indexOf(m_lengths->pathAt(first + k), first + k),
-                                 texts.at(k), videoCounts.value(k), problems.value(k));
+                                 lengths.at(k));
     m_progress->setValue(m_lengths->done());
     emit onSendReadProgress(m_lengths->done(), m_lengths->total());
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "RecordingList.h"
+#include "RecordingName.h"
 #include "RecordingRecord.h"
 #include "TavTableWidget.h"
 #include "ThumbnailFeed.h"
@@ -132,8 +133,7 @@ private:
     bool isPlayable(int index);
     // A row chosen by double click or Enter: stops what plays, then plays the row.
     void chooseRow(int row);
-    void onLengthsRead(int first, const QStringList& texts, const QVector<int>& videoCounts,
-                       const QVector<int>& problems);
+    void onLengthsRead(int first, const QVector<RecordingName::Length>& lengths);
     void onLengthsFinished(qint64 elapsedMs);
 
     bool m_controlHeld = false;
