@@ -2,7 +2,9 @@
 """Checks the link graph of the program's libraries as CMake builds it: no cycle, the lower
 layers (process-wide values and status log, what plays, UI descriptions, platform code,
 stream library, name rules) reach no library above them, and the views that only read what
-plays (the list, export, the chart and the map) reach neither the video engine nor libvlc.
+plays (the list, export, the chart and the map) reach neither the video engine nor libvlc, and
+the libraries a command-line tool builds on (drives, telemetry, the stream library) reach no
+widgets.
 Exits 1 naming the offending path otherwise.
 
     check_layers.py SOURCE_DIR SCRATCH_DIR
@@ -19,6 +21,9 @@ LOWER = {"tavoric_core", "tavoric_playstate", "tavoric_ui", "tavoric_platform",
 # Libraries that must not reach the engine or libvlc, and what counts as either.
 VIEWS = {"tavoric_recordings", "tavoric_export", "tavoric_telemetry_views"}
 ENGINE = ("tavoric_engine", "LIBVLC", "vlc")
+# Libraries the command-line tool builds on: no widget, no window system.
+HEADLESS = {"tavoric_drives", "tavoric_telemetry", "tavoric_kdxstream"}
+WIDGETS = ("Qt5::Widgets", "Qt5::Gui", "tavoric_ui")
 
 
 def read_graph(dot_path):
@@ -84,6 +89,11 @@ def reach_engine(library, edges):
     return reach(library, edges, lambda node: any(name in node for name in ENGINE))
 
 
+def reach_widgets(library, edges):
+    """A path from a library without windows to widgets, or None."""
+    return reach(library, edges, lambda node: any(name in node for name in WIDGETS))
+
+
 def main():
     source, scratch = sys.argv[1], sys.argv[2]
     shutil.rmtree(scratch, ignore_errors=True)
@@ -96,7 +106,7 @@ def main():
     if configure.returncode != 0:
         sys.exit("check_layers: cmake failed:\n" + configure.stderr)
     libraries, edges = read_graph(dot)
-    missing = (LOWER | VIEWS | {"tavoric_engine"}) - libraries
+    missing = (LOWER | VIEWS | HEADLESS | {"tavoric_engine"}) - libraries
     if missing or len(libraries) < 8:
         sys.exit("check_layers: the graph lacks libraries it must have: %s (found %s)" %
                  (sorted(missing), sorted(libraries)))
@@ -107,12 +117,14 @@ def main():
                  for path in filter(None, (reach_above(lib, edges) for lib in sorted(LOWER)))]
     failures += ["a view reaches the video engine: " + " -> ".join(path)
                  for path in filter(None, (reach_engine(lib, edges) for lib in sorted(VIEWS)))]
+    failures += ["a library without windows reaches widgets: " + " -> ".join(path)
+                 for path in filter(None, (reach_widgets(lib, edges) for lib in sorted(HEADLESS)))]
     for library in sorted(libraries):
         print("%-24s -> %s" % (library, ", ".join(sorted(ours.get(library, ()))) or "-"))
     if failures:
         sys.exit("\n".join(failures))
-    print("%d libraries, no cycle, lower layers link only lower layers, views not the engine"
-          % len(libraries))
+    print("%d libraries, no cycle, lower layers link only lower layers, views not the engine, "
+          "the command-line tool's libraries no widgets" % len(libraries))
 
 
 if __name__ == "__main__":
