@@ -2,6 +2,8 @@
 
 #include "CardSession.h"
 #include "ChartView.h"
+#include "DriveListView.h"
+#include "DrivePlayback.h"
 #include "ExportSession.h"
 #include "LeftSideView.h"
 #include "MapView.h"
@@ -52,6 +54,10 @@ void MainParts::build(QMainWindow* window) {
     central->addChild(fileListButton, "bFilelist", TavWidget::Style::Button);
     fileListButton->setCheckable(true);
     fileListButton->setFocusPolicy(Qt::NoFocus);
+    drivesButton = new QPushButton(central);
+    central->addChild(drivesButton, "bDrives", TavWidget::Style::Button);
+    drivesButton->setCheckable(true);
+    drivesButton->setFocusPolicy(Qt::NoFocus);
     mapButton = new QPushButton(central);
     central->addChild(mapButton, "bMap", TavWidget::Style::Button);
     mapButton->setCheckable(true);
@@ -59,6 +65,10 @@ void MainParts::build(QMainWindow* window) {
 
     fileList = new TavFileListItem(central);
     central->addChild(fileList, "fileList", TavWidget::Style::None);
+    driveList = new DriveListView(central);
+    central->addChild(driveList, "driveList", TavWidget::Style::None);
+    driveList->setObjectName("driveList");
+    driveList->hide();
     fileCombo = new TavFileComboBox(central);
     central->addChild(fileCombo, "cbfileState", TavWidget::Style::None);
     typeList = new TavTypeList(central);
@@ -112,6 +122,7 @@ void MainParts::build(QMainWindow* window) {
     player->setMainScreen(playScreen->scene());
     player->setSub1Screen(subPlayers[0]->scene());
     player->setSub2Screen(subPlayers[1]->scene());
+    drives = new DrivePlayback(window);
     card = new CardSession(window);
     exporter =
         new ExportSession(window, player, enabled("MapView") && enabled("bMap") ? map : nullptr);
@@ -145,4 +156,23 @@ bool MainParts::swapIntoMain(int id) {
     sub->swapScene(mainScene, mainId);
     control->setFlipChannel(subId);
     return true;
+}
+
+void MainParts::showSidePanel(SidePanel panel) {
+    fileListButton->setChecked(panel == ListPanel);
+    drivesButton->setChecked(panel == DrivesPanel);
+    mapButton->setChecked(panel == MapPanel);
+    if (enabled("fileList"))
+        fileList->setVisible(panel == ListPanel);
+    if (enabled("driveList"))
+        driveList->setVisible(panel == DrivesPanel);
+    // The type filter applies to the recordings and the drives alike.
+    if (enabled("cbfileState"))
+        fileCombo->setVisible(panel != MapPanel);
+    QWidget* shown = panel == MapPanel      ? static_cast<QWidget*>(map)
+                     : panel == DrivesPanel ? static_cast<QWidget*>(driveList)
+                                            : static_cast<QWidget*>(fileList);
+    shown->raise();
+    if (panel != MapPanel)
+        map->lower();
 }

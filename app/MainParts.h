@@ -2,6 +2,8 @@
 
 class CardSession;
 class ChartView;
+class DrivePlayback;
+class DriveListView;
 class ExportSession;
 class LeftSideView;
 class MapView;
@@ -35,9 +37,11 @@ struct MainParts {
     WaitPlayLogo* logo = nullptr;
     QPushButton* fileListButton = nullptr;
     QPushButton* mapButton = nullptr;
+    QPushButton* drivesButton = nullptr;
     MapView* map = nullptr;
     ChartView* chart = nullptr;
     TavFileListItem* fileList = nullptr;
+    DriveListView* driveList = nullptr;
     TavFileComboBox* fileCombo = nullptr;
     TavTypeList* typeList = nullptr;
     PlayScreenWindow* playScreen = nullptr;
@@ -47,9 +51,13 @@ struct MainParts {
     // "bAllType", "bInfinity", "bParking", "bEvent".
     TavTypeButton* typeButtons[4] = {nullptr, nullptr, nullptr, nullptr};
     PlayerInterface* player = nullptr;
+    DrivePlayback* drives = nullptr;
     CardSession* card = nullptr;
     ExportSession* exporter = nullptr;
 
+    enum SidePanel { ListPanel, DrivesPanel, MapPanel };
+    // The side panel shows the recordings list, the drives or the map; its tab is checked.
+    void showSidePanel(SidePanel panel);
     // Builds every child into window, the scenes handed to the coordinator.
     void build(QMainWindow* window);
     // The waiting logo, or the main scene with the rear scenes the recording's channels use.

@@ -166,6 +166,8 @@ void MainWindow::connectViews() {
     }
     if (v.enabled("bFilelist"))
         connect(v.fileListButton, &QPushButton::clicked, this, &MainWindow::onRaiseFilelist);
+    if (v.enabled("bDrives") && v.enabled("driveList"))
+        connect(v.drivesButton, &QPushButton::clicked, this, &MainWindow::onRaiseDrives);
     if (v.enabled("MapView")) {
         connect(this, &MainWindow::onSendMapShow, v.map, &MapView::onMapShow);
         connect(this, &MainWindow::onSendClear, v.map, &MapView::onClearData);
@@ -313,16 +315,14 @@ void MainWindow::onBlockEvent(bool block) {
 
 void MainWindow::onShowFilelist() {
     logDebug("MainWindow::onShowFilelist");
-    m_parts.fileListButton->setChecked(true);
-    m_parts.mapButton->setChecked(false);
-    if (m_parts.enabled("fileList"))
-        m_parts.fileList->show();
-    if (m_parts.enabled("cbfileState"))
-        m_parts.fileCombo->show();
+    m_parts.showSidePanel(MainParts::ListPanel);
     emit onSendMapShow(false);
-    if (m_parts.enabled("fileList"))
-        m_parts.fileList->raise();
-    m_parts.map->lower();
+}
+
+void MainWindow::onRaiseDrives() {
+    logDebug("MainWindow::onRaiseDrives");
+    m_parts.showSidePanel(MainParts::DrivesPanel);
+    emit onSendMapShow(false);
 }
 
 void MainWindow::onRaiseFilelist() {
@@ -332,15 +332,9 @@ void MainWindow::onRaiseFilelist() {
 
 void MainWindow::onRaiseMap() {
     logDebug("MainWindow::onRaiseMap");
-    m_parts.mapButton->setChecked(true);
-    m_parts.fileListButton->setChecked(false);
-    if (m_parts.enabled("fileList"))
-        m_parts.fileList->hide();
-    if (m_parts.enabled("cbfileState"))
-        m_parts.fileCombo->hide();
+    m_parts.showSidePanel(MainParts::MapPanel);
     emit onSendHideTypeList();
     emit onSendMapShow(true);
-    m_parts.map->raise();
 }
 
 void MainWindow::keyPressEvent(QKeyEvent* event) {

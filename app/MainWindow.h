@@ -66,6 +66,8 @@ public slots:
     void restoreScenes();
     void onShowFilelist();
     void onRaiseFilelist();
+    // The side panel shows the recordings as drives.
+    void onRaiseDrives();
     // The side panel shows the map in place of the file list.
     void onRaiseMap();
     void openLangaugeDlg();

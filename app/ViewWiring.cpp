@@ -2,6 +2,9 @@
 
 #include "CardSession.h"
 #include "ChartView.h"
+#include "DriveList.h"
+#include "DriveListView.h"
+#include "DrivePlayback.h"
 #include "ExportSession.h"
 #include "MainParts.h"
 #include "MapView.h"
@@ -56,6 +59,26 @@ void ViewWiring::wireList(const MainParts& parts) {
             QObject::connect(parts.shortcuts, &TavShortcutTable::onSendSignalFile, list,
                              &TavFileListItem::recvReqFileOpen);
         }
+    }
+    if (listed && parts.enabled("driveList")) {
+        // The drives follow the recordings list: its loads, its lengths, its type filter.
+        DriveListView* drives = parts.driveList;
+        const auto refreshShown = [drives] {
+            if (drives->isVisible())
+                drives->refresh();
+        };
+        QObject::connect(list, &TavFileListItem::onSendFinishReadFileTime, drives, refreshShown);
+        QObject::connect(list, &TavFileListItem::onSendRefreshFilter, drives, refreshShown);
+        QObject::connect(list, &TavFileListItem::rowsChanged, drives, refreshShown);
+        if (parts.enabled("cbfileState"))
+            QObject::connect(combo, &TavFileComboBox::onSendFileTypeFilter, drives,
+                             &DriveListView::onTypeMask);
+        QObject::connect(drives, &DriveListView::playDrive, parts.drives,
+                         [playback = parts.drives](int drive, int record) {
+                             if (drive >= 0 && drive < DriveList::drives.size())
+                                 playback->play(DriveList::drives.at(drive), DriveList::recordings,
+                                                record);
+                         });
     }
     if (!parts.enabled("cbfileState") || !parts.enabled("lFileType"))
         return;
@@ -114,8 +137,17 @@ void ViewWiring::wireControl(const MainParts& parts) {
                      &PlayerInterface::on5sMove);
     QObject::connect(control, &PlayControlView::onClickMoveFrame, player,
                      &PlayerInterface::onFrameMove);
-    QObject::connect(control, &PlayControlView::onChangePlayPosition, player,
+    // Moves, steps and the end of a recording go through the drive that plays, if any.
+    DrivePlayback* drives = parts.drives;
+    QObject::connect(control, &PlayControlView::onChangePlayPosition, drives,
+                     &DrivePlayback::onSeek);
+    QObject::connect(drives, &DrivePlayback::seekInRecording, player,
                      &PlayerInterface::onPlayPosMove);
+    QObject::connect(drives, &DrivePlayback::stopRequested, player, &PlayerInterface::onStop);
+    QObject::connect(drives, &DrivePlayback::playFile, player,
+                     qOverload<const QString&>(&PlayerInterface::checkFileReady));
+    QObject::connect(player, &PlayerInterface::onSetPlayData, drives,
+                     &DrivePlayback::onRecordingSet);
     QObject::connect(control, &PlayControlView::onSendChangeSpeed, player,
                      &PlayerInterface::onControlSpeed);
     QObject::connect(control, &PlayControlView::onClickedMute, player, &PlayerInterface::onSetMute);
@@ -149,10 +181,18 @@ void ViewWiring::wireControl(const MainParts& parts) {
         TavFileListItem* list = parts.fileList;
         QObject::connect(control, &PlayControlView::onClickedDelete, list,
                          &TavFileListItem::onDeleteCurrentFile);
-        QObject::connect(control, &PlayControlView::onCallNextFile, list,
+        QObject::connect(control, &PlayControlView::onCallNextFile, drives,
+                         &DrivePlayback::onForward);
+        QObject::connect(drives, &DrivePlayback::forwardToList, list,
                          &TavFileListItem::onForwardItemSet);
-        QObject::connect(control, &PlayControlView::onChangePlayFile, list,
+        QObject::connect(drives, &DrivePlayback::ended, list, &TavFileListItem::onEndOfPlayback);
+        QObject::connect(control, &PlayControlView::onChangePlayFile, drives,
+                         &DrivePlayback::onStep);
+        QObject::connect(drives, &DrivePlayback::stepInList, list,
                          &TavFileListItem::onChangePlayItem);
+        QObject::connect(drives, &DrivePlayback::noMore, list, &TavFileListItem::onNoMoreItem);
+        // Rows went: what plays goes on as a recording of its own.
+        QObject::connect(list, &TavFileListItem::rowsChanged, drives, &DrivePlayback::clear);
         QObject::connect(list, &TavFileListItem::onSendPause, control,
                          &PlayControlView::onSetPause);
     }

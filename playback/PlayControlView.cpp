@@ -397,8 +397,9 @@ void PlayControlView::onSetPlayData() {
 
 void PlayControlView::onloadTotalTime() {
     logDebug("PlayControlView::onloadTotalTime");
-    m_totalTime->setText(timeText(PlayerInterface::totalTime));
-    m_slider->setMaximum(qMax(0, int(PlayerInterface::totalTime)));
+    // A drive's slider and times cover the whole drive.
+    m_totalTime->setText(timeText(PlaybackState::shownTotal()));
+    m_slider->setMaximum(qMax(0, int(PlaybackState::shownTotal())));
 }
 
 void PlayControlView::onUpdateSlider() {
@@ -406,8 +407,8 @@ void PlayControlView::onUpdateSlider() {
     // While dragged, the slider shows the user's time, not the player's.
     if (m_slider->isSliderDown())
         return;
-    const double current = PlayerInterface::currentTime;
-    const double total = PlayerInterface::totalTime;
+    const double current = PlaybackState::shownTime();
+    const double total = PlaybackState::shownTotal();
     if (m_slider->maximum() != int(total))
         onloadTotalTime();
     m_playTime->setText(timeText(current));
@@ -443,9 +444,11 @@ void PlayControlView::onSeekTo(int ms) {
     logDebug("PlayControlView::onSeekTo");
     if (!isPlayingOrPaused())
         return;
-    m_slider->setValue(ms);
-    m_playTime->setText(timeText(ms));
-    emit onChangePlayPosition(ms);
+    // The chart gives the recording's time; the slider shows the drive's while one plays.
+    const int shown = PlaybackState::inDrive() ? int(PlaybackState::driveOffsetMs) + ms : ms;
+    m_slider->setValue(shown);
+    m_playTime->setText(timeText(shown));
+    emit onChangePlayPosition(shown);
 }
 
 void PlayControlView::onClearUi() {

@@ -93,6 +93,7 @@ void FileListRemover::removeRows(QList<int> rows, bool fromDisk) {
             left << deleteFiles(record);
     }
     RecordingList::renumber();
+    emit m_list.rowsChanged();
     if (keptLoading)
         TavPrompt::inform(&m_list,
                           TavFileListItem::tr("This File is loading now.. Please try later"));

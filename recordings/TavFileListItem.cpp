@@ -183,34 +183,39 @@ void TavFileListItem::onForwardItemSet() {
     int next = nextRow();
     while (next >= 0 && !isPlayable(next))
         next = shownRowAfter(next);
-    if (next < 0) {
-        // Playback ran to the end of the last shown row by itself: the player simply stays
-        // stopped at the logo. A message box here would greet a user who walked away.
-        logInfo("[TavFileListItem]: last item played.");
-        emit onSendClear();
-        emit onSendLogoSet(true);
-        emit onSetBlockEvent(false);
-        return;
-    }
-    playItem(next);
+    if (next < 0)
+        onEndOfPlayback();
+    else
+        playItem(next);
+}
+
+void TavFileListItem::onEndOfPlayback() {
+    // Playback ran to the end by itself: the player simply stays stopped at the logo. A
+    // message box here would greet a user who walked away.
+    logInfo("[TavFileListItem]: last item played.");
+    emit onSendClear();
+    emit onSendLogoSet(true);
+    emit onSetBlockEvent(false);
 }
 
 void TavFileListItem::onChangePlayItem(int direction) {
     logInfo("[TavFileListItem]: change select item");
     const int target = direction > 0 ? nextRow() : previousRow();
-    if (target < 0) {
-        logInfo("[TavFileListItem]: no Item.");
-        // Reached after the player stopped to move on (a step back at the very start): with
-        // nothing to move to, it stays stopped at the logo and takes input again. The player
-        // blocks input right after asking to move on, so the release comes after that.
-        if (PlaybackState::playStatus != PlaybackState::PlayRunning &&
-            PlaybackState::playStatus != PlaybackState::PlayPaused)
-            emit onSendLogoSet(true);
-        QTimer::singleShot(0, this, [this] { emit onSetBlockEvent(false); });
-        TavPrompt::inform(this, tr("There is no item."));
-        return;
-    }
-    playItem(target);
+    if (target < 0)
+        onNoMoreItem();
+    else
+        playItem(target);
+}
+
+void TavFileListItem::onNoMoreItem() {
+    logInfo("[TavFileListItem]: no Item.");
+    // Reached after the player stopped to move on (a step back at the very start): with
+    // nothing to move to, it stays stopped at the logo and takes input again. The player
+    // blocks input right after asking to move on, so the release comes after that.
+    if (!PlaybackState::hasRecording())
+        emit onSendLogoSet(true);
+    QTimer::singleShot(0, this, [this] { emit onSetBlockEvent(false); });
+    TavPrompt::inform(this, tr("There is no item."));
 }
 
 void TavFileListItem::onSetFirstFile() {
@@ -253,6 +258,7 @@ void TavFileListItem::resetList() {
     RecordingList::clear();
     resetPressState();
     m_thumbs->clearRequests();
+    emit rowsChanged();
     emit onSendLogoSet(true);
     emit onSetBlockEvent(false);
 }
@@ -265,6 +271,7 @@ void TavFileListItem::onDeleteAllFileAtList() {
 void TavFileListItem::dropRow(int row) {
     removeRow(row);
     removeRecord(row);
+    emit rowsChanged();
 }
 
 void TavFileListItem::onDeleteCurrentFile() {

@@ -68,6 +68,8 @@ signals:
     void onSendFinishReadFileTime();
     // Lengths read so far of the current load; done == total when finished.
     void onSendReadProgress(int done, int total);
+    // Rows went (deleted, or the list emptied); loads end with onSendRefreshFilter.
+    void rowsChanged();
 
 public slots:
     void recvReqFileOpen();
@@ -81,6 +83,10 @@ public slots:
     // Next (direction 1) or previous (0 or -1) shown row, asked for by the user; at an end
     // the user is told "There is no item.".
     void onChangePlayItem(int direction);
+    // Playback ran to its end by itself: the player stays stopped at the logo.
+    void onEndOfPlayback();
+    // A step past the first or last row: the user is told "There is no item.".
+    void onNoMoreItem();
     void onDeleteAllFileAtList();
     void onDeleteCurrentFile();
     void onUpdateData(const QString& path, int index);

@@ -7,6 +7,8 @@
 #include "CardSession.h"
 #include "ExportSession.h"
 #include "ChartView.h"
+#include "DriveListView.h"
+#include "DrivePlayback.h"
 #include "Frameless.h"
 #include "LanguageView.h"
 #include "MainWindow.h"
@@ -513,8 +515,10 @@ private slots:
         auto* back = m_window->findChild<SubSceneBackWidget*>();
         auto* sub1 = child<SubPlayerWindow>("subPlayerWindow1");
         auto* sub2 = child<SubPlayerWindow>("subPlayerWindow2");
+        auto* drives = m_window->findChild<DrivePlayback*>();
+        auto* driveList = m_window->findChild<DriveListView*>();
         QVERIFY(player && topBar && shortcuts && control && map && list && combo && typeList &&
-                screen && back && sub1 && sub2);
+                screen && back && sub1 && sub2 && drives && driveList);
         QStringList missing;
 #define ROUTE(sender, signal, receiver, slot)                                                \
     if (!QObject::disconnect(sender, &signal, receiver, &slot))                                \
@@ -559,8 +563,16 @@ private slots:
         ROUTE(control, PlayControlView::onSendStop, player, PlayerInterface::onStop);
         ROUTE(control, PlayControlView::onClicked5sMove, player, PlayerInterface::on5sMove);
         ROUTE(control, PlayControlView::onClickMoveFrame, player, PlayerInterface::onFrameMove);
-        ROUTE(control, PlayControlView::onChangePlayPosition, player,
-              PlayerInterface::onPlayPosMove);
+        // Moves, steps and ends pass through the drive that plays, if any.
+        ROUTE(control, PlayControlView::onChangePlayPosition, drives, DrivePlayback::onSeek);
+        ROUTE(drives, DrivePlayback::seekInRecording, player, PlayerInterface::onPlayPosMove);
+        ROUTE(drives, DrivePlayback::stopRequested, player, PlayerInterface::onStop);
+        ROUTE(player, PlayerInterface::onSetPlayData, drives, DrivePlayback::onRecordingSet);
+        if (!QObject::disconnect(drives, &DrivePlayback::playFile, player,
+                                 qOverload<const QString&>(&PlayerInterface::checkFileReady)))
+            missing << "drives playFile -> player checkFileReady(file)";
+        ROUTE(child<QPushButton>("bDrives"), QPushButton::clicked, self,
+              MainWindow::onRaiseDrives);
         ROUTE(control, PlayControlView::onSendChangeSpeed, player,
               PlayerInterface::onControlSpeed);
         ROUTE(control, PlayControlView::onClickedMute, player, PlayerInterface::onSetMute);
@@ -622,9 +634,14 @@ private slots:
               TavFileListItem::onDeleteAllFileAtList);
         ROUTE(self, MainWindow::onSendBlockEvent, list, TavFileListItem::onBlockEvent);
         ROUTE(self, MainWindow::onSendBlockEvent, control, PlayControlView::onBlockEvent);
-        ROUTE(control, PlayControlView::onCallNextFile, list, TavFileListItem::onForwardItemSet);
-        ROUTE(control, PlayControlView::onChangePlayFile, list,
-              TavFileListItem::onChangePlayItem);
+        ROUTE(control, PlayControlView::onCallNextFile, drives, DrivePlayback::onForward);
+        ROUTE(drives, DrivePlayback::forwardToList, list, TavFileListItem::onForwardItemSet);
+        ROUTE(drives, DrivePlayback::ended, list, TavFileListItem::onEndOfPlayback);
+        ROUTE(control, PlayControlView::onChangePlayFile, drives, DrivePlayback::onStep);
+        ROUTE(drives, DrivePlayback::stepInList, list, TavFileListItem::onChangePlayItem);
+        ROUTE(drives, DrivePlayback::noMore, list, TavFileListItem::onNoMoreItem);
+        ROUTE(list, TavFileListItem::rowsChanged, drives, DrivePlayback::clear);
+        ROUTE(combo, TavFileComboBox::onSendFileTypeFilter, driveList, DriveListView::onTypeMask);
         ROUTE(player, PlayerInterface::onSendPlayNextFile, control,
               PlayControlView::onRecvPlayNextFile);
         ROUTE(player, PlayerInterface::onSendPlayPreviusFile, control,

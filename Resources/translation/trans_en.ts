@@ -55,6 +55,49 @@
     </message>
   </context>
   <context>
+    <name>DriveListView</name>
+    <message>
+      <source>Recordings: %1</source>
+      <translation>Recordings: %1</translation>
+    </message>
+    <message>
+      <source>Incidents: %1</source>
+      <translation>Incidents: %1</translation>
+    </message>
+    <message>
+      <source>Incidents: reading</source>
+      <translation>Incidents: reading</translation>
+    </message>
+    <message>
+      <source>Parking</source>
+      <translation>Parking</translation>
+    </message>
+    <message>
+      <source>Drive</source>
+      <translation>Drive</translation>
+    </message>
+    <message>
+      <source>Harsh braking</source>
+      <translation>Harsh braking</translation>
+    </message>
+    <message>
+      <source>Harsh acceleration</source>
+      <translation>Harsh acceleration</translation>
+    </message>
+    <message>
+      <source>Sharp turn</source>
+      <translation>Sharp turn</translation>
+    </message>
+    <message>
+      <source>Impact</source>
+      <translation>Impact</translation>
+    </message>
+    <message>
+      <source>Camera event</source>
+      <translation>Camera event</translation>
+    </message>
+  </context>
+  <context>
     <name>ExportSession</name>
     <message>
       <source>Play a recording to print its report.</source>
@@ -1264,6 +1307,10 @@
     <message>
       <source>Recordings</source>
       <translation>Recordings</translation>
+    </message>
+    <message>
+      <source>Drives</source>
+      <translation>Drives</translation>
     </message>
     <message>
       <source>Map</source>

@@ -55,6 +55,49 @@
     </message>
   </context>
   <context>
+    <name>DriveListView</name>
+    <message>
+      <source>Recordings: %1</source>
+      <translation>הקלטות: %1</translation>
+    </message>
+    <message>
+      <source>Incidents: %1</source>
+      <translation>אירועים: %1</translation>
+    </message>
+    <message>
+      <source>Incidents: reading</source>
+      <translation>אירועים: בקריאה</translation>
+    </message>
+    <message>
+      <source>Parking</source>
+      <translation>חניה</translation>
+    </message>
+    <message>
+      <source>Drive</source>
+      <translation>נסיעה</translation>
+    </message>
+    <message>
+      <source>Harsh braking</source>
+      <translation>בלימה חדה</translation>
+    </message>
+    <message>
+      <source>Harsh acceleration</source>
+      <translation>האצה חדה</translation>
+    </message>
+    <message>
+      <source>Sharp turn</source>
+      <translation>פנייה חדה</translation>
+    </message>
+    <message>
+      <source>Impact</source>
+      <translation>מכה</translation>
+    </message>
+    <message>
+      <source>Camera event</source>
+      <translation>אירוע מצלמה</translation>
+    </message>
+  </context>
+  <context>
     <name>ExportSession</name>
     <message>
       <source>Play a recording to print its report.</source>
@@ -1271,6 +1314,10 @@
     <message>
       <source>Recordings</source>
       <translation>הקלטות</translation>
+    </message>
+    <message>
+      <source>Drives</source>
+      <translation>נסיעות</translation>
     </message>
     <message>
       <source>Map</source>

@@ -55,6 +55,49 @@
     </message>
   </context>
   <context>
+    <name>DriveListView</name>
+    <message>
+      <source>Recordings: %1</source>
+      <translation>녹화: %1</translation>
+    </message>
+    <message>
+      <source>Incidents: %1</source>
+      <translation>사건: %1</translation>
+    </message>
+    <message>
+      <source>Incidents: reading</source>
+      <translation>사건: 읽는 중</translation>
+    </message>
+    <message>
+      <source>Parking</source>
+      <translation>주차</translation>
+    </message>
+    <message>
+      <source>Drive</source>
+      <translation>주행</translation>
+    </message>
+    <message>
+      <source>Harsh braking</source>
+      <translation>급제동</translation>
+    </message>
+    <message>
+      <source>Harsh acceleration</source>
+      <translation>급가속</translation>
+    </message>
+    <message>
+      <source>Sharp turn</source>
+      <translation>급회전</translation>
+    </message>
+    <message>
+      <source>Impact</source>
+      <translation>충격</translation>
+    </message>
+    <message>
+      <source>Camera event</source>
+      <translation>카메라 이벤트</translation>
+    </message>
+  </context>
+  <context>
     <name>ExportSession</name>
     <message>
       <source>Play a recording to print its report.</source>
@@ -1264,6 +1307,10 @@
     <message>
       <source>Recordings</source>
       <translation>녹화 영상</translation>
+    </message>
+    <message>
+      <source>Drives</source>
+      <translation>주행</translation>
     </message>
     <message>
       <source>Map</source>

@@ -17,3 +17,5 @@ bool PlaybackState::telemetryPresent = false;
 bool PlaybackState::gpsPresent = false;
 QList<GpsPoint> PlaybackState::gpsList;
 QList<GSensorPoint> PlaybackState::gSensorList;
+qint64 PlaybackState::driveOffsetMs = -1;
+qint64 PlaybackState::driveLengthMs = 0;

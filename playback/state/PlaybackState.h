@@ -5,6 +5,7 @@
 
 #include <QList>
 #include <QString>
+#include <QtGlobal>
 
 // What the playback coordinator shares with the views: the recording that plays, where it
 // stands, its cameras and telemetry. The coordinator (PlayerInterface) writes these values;
@@ -32,6 +33,15 @@ public:
     static bool gpsPresent;
     static QList<GpsPoint> gpsList;
     static QList<GSensorPoint> gSensorList;
+
+    // While a drive plays: where the recording that plays starts in the drive, and the
+    // drive's length (ms); -1 and 0 otherwise. The panel's slider and times cover the drive.
+    static qint64 driveOffsetMs;
+    static qint64 driveLengthMs;
+    static bool inDrive() { return driveOffsetMs >= 0; }
+    // The play time and length the panel shows: the drive's while one plays.
+    static double shownTime() { return inDrive() ? driveOffsetMs + currentTime : currentTime; }
+    static double shownTotal() { return inDrive() ? double(driveLengthMs) : totalTime; }
 
     // A recording is open in the players, playing or paused.
     static bool hasRecording() { return playStatus == PlayRunning || playStatus == PlayPaused; }
