@@ -5,6 +5,7 @@
 #include "DriveListView.h"
 #include "DrivePlayback.h"
 #include "ExportSession.h"
+#include "IncidentListView.h"
 #include "LeftSideView.h"
 #include "MapView.h"
 #include "PlayControlView.h"
@@ -22,10 +23,10 @@
 #include "TopBar.h"
 #include "WaitPlayLogo.h"
 
+#include <QHBoxLayout>
 #include <QMainWindow>
 #include <QPushButton>
 #include <QStackedWidget>
-#include <QVBoxLayout>
 
 #include <algorithm>
 #include <iterator>
@@ -112,11 +113,15 @@ void MainParts::build(QMainWindow* window) {
     control = new PlayControlView(central);
     central->addChild(control, "ControlView", TavWidget::Style::None);
     control->setObjectName("ControlView");
-    // The chart fills the panel's place for it.
+    // The chart fills the panel's place for it, the drive's incidents beside it.
     chart = new ChartView(control->chartArea());
-    auto* chartLayout = new QVBoxLayout(control->chartArea());
+    incidents = new IncidentListView(control->chartArea());
+    incidents->setFixedWidth(260);
+    auto* chartLayout = new QHBoxLayout(control->chartArea());
     chartLayout->setContentsMargins(0, 0, 0, 0);
-    chartLayout->addWidget(chart);
+    chartLayout->setSpacing(4);
+    chartLayout->addWidget(chart, 1);
+    chartLayout->addWidget(incidents);
 
     player = new PlayerInterface(window);
     player->setMainScreen(playScreen->scene());

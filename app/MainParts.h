@@ -2,6 +2,7 @@
 
 class CardSession;
 class ChartView;
+class IncidentListView;
 class DrivePlayback;
 class DriveListView;
 class ExportSession;
@@ -40,6 +41,7 @@ struct MainParts {
     QPushButton* drivesButton = nullptr;
     MapView* map = nullptr;
     ChartView* chart = nullptr;
+    IncidentListView* incidents = nullptr;
     TavFileListItem* fileList = nullptr;
     DriveListView* driveList = nullptr;
     TavFileComboBox* fileCombo = nullptr;

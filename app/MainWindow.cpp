@@ -3,8 +3,10 @@
 #include "AppGlobals.h"
 #include "AppStartup.h"
 #include "CardSession.h"
+#include "DriveListView.h"
 #include "ExportSession.h"
 #include "Frameless.h"
+#include "IncidentListView.h"
 #include "LanguageView.h"
 #include "MapView.h"
 #include "PlayControlView.h"
@@ -176,6 +178,9 @@ void MainWindow::connectViews() {
             connect(v.mapButton, &QPushButton::clicked, this, &MainWindow::onRaiseMap);
     }
     connect(this, &MainWindow::onSendChangeLanguage, this, &MainWindow::onChangeTextByLanguage);
+    connect(this, &MainWindow::onSendChangeLanguage, v.driveList, &DriveListView::onChangeLanguage);
+    connect(this, &MainWindow::onSendChangeLanguage, v.incidents,
+            &IncidentListView::onChangeLanguage);
     if (v.enabled("ControlView")) {
         PlayControlView* control = v.control;
         connect(control, &PlayControlView::onSendRefreshImage, this, &MainWindow::onGetImage);

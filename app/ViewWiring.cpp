@@ -6,6 +6,7 @@
 #include "DriveListView.h"
 #include "DrivePlayback.h"
 #include "ExportSession.h"
+#include "IncidentListView.h"
 #include "MainParts.h"
 #include "MapView.h"
 #include "PlayControlView.h"
@@ -73,6 +74,11 @@ void ViewWiring::wireList(const MainParts& parts) {
         if (parts.enabled("cbfileState"))
             QObject::connect(combo, &TavFileComboBox::onSendFileTypeFilter, drives,
                              &DriveListView::onTypeMask);
+        QObject::connect(drives, &DriveListView::incidentsRead, parts.drives,
+                         [playback = parts.drives] {
+                             for (const Drive& drive : DriveList::drives)
+                                 playback->setIncidents(DriveList::key(drive), drive.incidents);
+                         });
         QObject::connect(drives, &DriveListView::playDrive, parts.drives,
                          [playback = parts.drives](int drive, int record) {
                              if (drive >= 0 && drive < DriveList::drives.size())
@@ -214,6 +220,14 @@ void ViewWiring::wireTelemetry(const MainParts& parts) {
                          &ChartView::onloadChart);
         QObject::connect(control, &PlayControlView::onSendUpdateChart, chart,
                          &ChartView::onUpdateChart);
+        // The drive's incidents: listed beside the chart, marked on the slider; a chosen one
+        // plays from a little before it.
+        QObject::connect(parts.drives, &DrivePlayback::incidentsChanged, parts.incidents,
+                         &IncidentListView::setIncidents);
+        QObject::connect(parts.drives, &DrivePlayback::incidentMarks, control,
+                         &PlayControlView::onSetIncidentMarks);
+        QObject::connect(parts.incidents, &IncidentListView::seekTo, parts.drives,
+                         &DrivePlayback::onSeek);
         QObject::connect(control, &PlayControlView::onSendClear, chart, &ChartView::onClearData);
         QObject::connect(chart, &ChartView::onSendSeek, control, &PlayControlView::onSeekTo);
     }

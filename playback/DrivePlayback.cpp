@@ -21,6 +21,7 @@ void DrivePlayback::play(const Drive& drive, const QVector<DriveRecording>& reco
     m_recordings = recordings;
     logInfo("[DrivePlayback]: drive of %d recordings, %lld ms", int(drive.playList.size()),
             static_cast<long long>(drive.lengthMs()));
+    announceIncidents();
     if (record < 0 || record >= recordings.size()) {
         open(0, 0);
         return;
@@ -101,7 +102,26 @@ void DrivePlayback::onRecordingSet() {
     }
 }
 
+void DrivePlayback::setIncidents(const QString& playListKey, const QVector<Incident>& incidents) {
+    QString key;
+    for (int index : m_drive.playList)
+        key += m_recordings.at(index).path + '\n';
+    if (!isActive() || key != playListKey)
+        return;
+    m_drive.incidents = incidents;
+    announceIncidents();
+}
+
+void DrivePlayback::announceIncidents() {
+    QVector<int> marks;
+    for (const Incident& incident : m_drive.incidents)
+        marks << int(incident.timeMs);
+    emit incidentsChanged(m_drive.incidents);
+    emit incidentMarks(marks);
+}
+
 void DrivePlayback::clear() {
+    const bool had = !m_drive.incidents.isEmpty();
     m_drive = Drive();
     m_recordings.clear();
     m_current = -1;
@@ -109,4 +129,6 @@ void DrivePlayback::clear() {
     m_pendingSeekMs = 0;
     PlaybackState::driveOffsetMs = -1;
     PlaybackState::driveLengthMs = 0;
+    if (had)
+        announceIncidents();
 }

@@ -28,6 +28,10 @@ signals:
     void stopRequested(int type);
     void playFile(const QString& path);
     void seekInRecording(int ms);
+    // The incidents of the drive that plays (none when none plays), and their moments in
+    // the drive for the slider.
+    void incidentsChanged(const QVector<Incident>& incidents);
+    void incidentMarks(const QVector<int>& driveMs);
     // Without a drive: the panel's requests for the list.
     void forwardToList();
     void stepInList(int direction);
@@ -47,11 +51,15 @@ public slots:
     // A recording's data is set: the drive goes on with it, or ends when it is not the one
     // the drive asked for.
     void onRecordingSet();
+    // The drive's incidents came (they are read in the background); for another drive
+    // (key: DriveList's key of its play list) nothing changes.
+    void setIncidents(const QString& playListKey, const QVector<Incident>& incidents);
     // Leaves the drive (the list was emptied, the card taken).
     void clear();
 
 private:
     void open(int playIndex, qint64 atMs);
+    void announceIncidents();
 
     Drive m_drive;
     QVector<DriveRecording> m_recordings;

@@ -451,6 +451,10 @@ void PlayControlView::onSeekTo(int ms) {
     emit onChangePlayPosition(shown);
 }
 
+void PlayControlView::onSetIncidentMarks(const QVector<int>& driveMs) {
+    m_slider->setMarks(driveMs);
+}
+
 void PlayControlView::onClearUi() {
     logDebug("PlayControlView::onClearUi");
     m_play->setPlaying(false);

@@ -64,6 +64,8 @@ public slots:
     // Playback to a moment chosen elsewhere in the panel (the chart): the same route as a
     // move of the slider.
     void onSeekTo(int ms);
+    // A drive's incidents marked on the slider, at their moments in the drive.
+    void onSetIncidentMarks(const QVector<int>& driveMs);
     void onClick_bPlay();
     void onClick_bStop();
     // Previous and next recording.

@@ -3,7 +3,9 @@
 #include "PlayerInterface.h"
 #include "UiItem.h"
 
+#include <QColor>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QStyle>
 #include <QStyleOptionSlider>
 
@@ -11,6 +13,39 @@ TavPlaySlider::TavPlaySlider(QWidget* parent) : QSlider(Qt::Horizontal, parent) 
     setFocusPolicy(Qt::NoFocus);
     setRange(0, 0);
     setCursor(Qt::PointingHandCursor);
+}
+
+void TavPlaySlider::setMarks(const QVector<int>& values) {
+    m_marks = values;
+    update();
+}
+
+int TavPlaySlider::positionOf(int value) const {
+    QStyleOptionSlider option;
+    initStyleOption(&option);
+    const QRect groove =
+        style()->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderGroove, this);
+    const QRect handle =
+        style()->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, this);
+    const int span = groove.width() - handle.width();
+    return groove.x() + handle.width() / 2 +
+           QStyle::sliderPositionFromValue(minimum(), maximum(), value, span, option.upsideDown);
+}
+
+void TavPlaySlider::paintEvent(QPaintEvent* event) {
+    QSlider::paintEvent(event);
+    if (m_marks.isEmpty() || maximum() <= minimum())
+        return;
+    // Each mark a short bar across the groove, in the incidents' colour.
+    QPainter painter(this);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(0xff, 0xa0, 0x2e));
+    const int top = height() / 2 - 6;
+    for (int value : m_marks) {
+        if (value < minimum() || value > maximum())
+            continue;
+        painter.drawRoundedRect(QRect(positionOf(value) - 2, top, 4, 12), 1.5, 1.5);
+    }
 }
 
 bool TavPlaySlider::acceptsInput() const {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QSlider>
+#include <QVector>
 
 struct UiItem;
 
@@ -19,6 +20,12 @@ public:
 
     // The value under a point of the widget, clamped to the range.
     int valueAt(const QPoint& point) const;
+    // Where a value is drawn along the groove (the handle's centre there).
+    int positionOf(int value) const;
+
+    // Moments marked on the groove (a drive's incidents), in the slider's values.
+    void setMarks(const QVector<int>& values);
+    const QVector<int>& marks() const { return m_marks; }
 
     // Groove (Default colour), played part (Select), handle (Normal; Hover under the mouse)
     // and the played part when disabled (Disable).
@@ -31,7 +38,9 @@ protected:
     // A wheel or key would move the value without a release, so nothing would be sought.
     void wheelEvent(QWheelEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     bool m_dragging = false;
+    QVector<int> m_marks;
 };

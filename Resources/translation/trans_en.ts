@@ -163,6 +163,33 @@
     </message>
   </context>
   <context>
+    <name>IncidentListView</name>
+    <message>
+      <source>Harsh braking</source>
+      <translation>Harsh braking</translation>
+    </message>
+    <message>
+      <source>Harsh acceleration</source>
+      <translation>Harsh acceleration</translation>
+    </message>
+    <message>
+      <source>Sharp turn</source>
+      <translation>Sharp turn</translation>
+    </message>
+    <message>
+      <source>Impact</source>
+      <translation>Impact</translation>
+    </message>
+    <message>
+      <source>Camera event</source>
+      <translation>Camera event</translation>
+    </message>
+    <message>
+      <source>The camera recorded this moment as an event.</source>
+      <translation>The camera recorded this moment as an event.</translation>
+    </message>
+  </context>
+  <context>
     <name>LanguageView</name>
     <message>
       <source>English </source>

@@ -163,6 +163,33 @@
     </message>
   </context>
   <context>
+    <name>IncidentListView</name>
+    <message>
+      <source>Harsh braking</source>
+      <translation>בלימה חדה</translation>
+    </message>
+    <message>
+      <source>Harsh acceleration</source>
+      <translation>האצה חדה</translation>
+    </message>
+    <message>
+      <source>Sharp turn</source>
+      <translation>פנייה חדה</translation>
+    </message>
+    <message>
+      <source>Impact</source>
+      <translation>מכה</translation>
+    </message>
+    <message>
+      <source>Camera event</source>
+      <translation>אירוע מצלמה</translation>
+    </message>
+    <message>
+      <source>The camera recorded this moment as an event.</source>
+      <translation>המצלמה הקליטה את הרגע הזה כאירוע.</translation>
+    </message>
+  </context>
+  <context>
     <name>LanguageView</name>
     <message>
       <source>English </source>

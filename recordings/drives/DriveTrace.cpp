@@ -37,6 +37,10 @@ QVector<TraceSample> DriveTrace::readRecording(const QString& path) {
         const bool located =
             (frame.fields & KDX_FIELD_POSITION) != 0 && (frame.fields & KDX_FIELD_SPEED) != 0;
         sample.speedKmh = located ? frame.speed : -1.0f;
+        if (located) {
+            sample.latitude = frame.latitude;
+            sample.longitude = frame.longitude;
+        }
         samples.append(sample);
     }
     reader.KDX_TextDataFree();
@@ -90,6 +94,8 @@ QVector<Incident> DriveTrace::incidents(const Drive& drive,
                 event.peakG = level;
                 event.timeMs = from + sample.timeMs;
                 event.speedKmh = sample.speedKmh;
+                event.latitude = sample.latitude;
+                event.longitude = sample.longitude;
             }
         }
         found.append(event);

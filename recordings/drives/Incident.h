@@ -16,6 +16,9 @@ struct Incident {
     float peakG = 0;
     // km/h at the peak; negative when no position was known then.
     float speedKmh = -1;
+    // Where it happened; both 0 when no position was known then.
+    float latitude = 0;
+    float longitude = 0;
     // The camera made an event recording of the same moment.
     bool byCamera = false;
 

@@ -64,6 +64,8 @@ QVector<Incident> IncidentDetector::detect(const QVector<TraceSample>& trace,
             open[kind].peakG = levels[kind];
             open[kind].timeMs = sample.timeMs;
             open[kind].speedKmh = sample.speedKmh;
+            open[kind].latitude = sample.latitude;
+            open[kind].longitude = sample.longitude;
         }
     }
     for (int kind = 0; kind < kKinds; ++kind)
