@@ -263,6 +263,10 @@ private slots:
         QVERIFY(incidents.first().timeMs >= 88000 && incidents.first().timeMs <= 89600);
         QVERIFY(incidents.first().byCamera);
         QVERIFY(incidents.first().peakG > 0.9f);
+        // Where and how fast: the drive's speed plan brakes from 56 km/h, on its route.
+        QVERIFY(incidents.first().speedKmh > 20 && incidents.first().speedKmh <= 56.5f);
+        QVERIFY(std::fabs(incidents.first().latitude) > 1 &&
+                std::fabs(incidents.first().longitude) > 1);
     }
 };
 

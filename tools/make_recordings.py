@@ -567,6 +567,24 @@ def make_playback(folder, scratch):
     run(["-i", parts[0], "-i", parts[1], "-i", parts[2], "-f", "lavfi", "-i", "sine=d=4",
          "-map", "0:v", "-map", "1:v", "-map", "2:v", "-map", "3:a", "-c:v", "copy",
          "-c:a", "aac", "-shortest", path("20240301_092000_USR_4.mp4")])
+    # A drive for playing across recordings, in a folder of its own: four-second recordings
+    # one after the other, each recording's cameras in colours of their own (a screen grab
+    # tells which recording plays), one in the middle that cannot be read; then a recording
+    # after a gap, and a parking recording.
+    drive = path("drive")
+    os.makedirs(drive)
+    palette = (("red", "lime", "blue"), ("yellow", "cyan", "magenta"), None,
+               ("white", "orange", "purple"))
+    for k, colours in enumerate(palette):
+        stem = os.path.join(drive, "20240301_0930%02d_INF" % (k * 4))
+        if colours is None:
+            with open(stem + "_1.mp4", "wb") as broken:
+                broken.write(b"not a recording\n" * 64)
+            continue
+        for channel, colour in enumerate(colours, 1):
+            coloured_channel(colour, 4, "%s_%d.mp4" % (stem, channel))
+    coloured_channel("red", 4, os.path.join(drive, "20240301_093200_INF_1.mp4"))
+    coloured_channel("red", 4, os.path.join(drive, "20240301_094000_PRK_1.mp4"))
     # Small bar-coded channels for checks of the channels' step, in a folder of their own so
     # that they are not among the recordings a test lists.
     os.makedirs(path("steps"))
