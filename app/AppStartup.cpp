@@ -103,6 +103,10 @@ void AppStartup::readPlayerValues() {
     AppGlobals::snapshotPath = settings.value("snapshotPath").toString();
     AppGlobals::videoPath = settings.value("videoPath").toString();
     AppGlobals::speedUnit = settings.value("speedUnit", AppGlobals::speedUnit).toInt();
+    AppGlobals::driveGapSeconds =
+        settings.value("driveGapSeconds", AppGlobals::driveGapSeconds).toInt();
+    AppGlobals::incidentScalePercent =
+        settings.value("incidentScale", AppGlobals::incidentScalePercent).toInt();
 }
 
 void AppStartup::saveValues(const QRect& frame) {

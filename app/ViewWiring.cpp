@@ -74,6 +74,8 @@ void ViewWiring::wireList(const MainParts& parts) {
         if (parts.enabled("cbfileState"))
             QObject::connect(combo, &TavFileComboBox::onSendFileTypeFilter, drives,
                              &DriveListView::onTypeMask);
+        QObject::connect(parts.card, &CardSession::onSendDriveRules, drives,
+                         &DriveListView::applyRules);
         QObject::connect(drives, &DriveListView::incidentsRead, parts.drives,
                          [playback = parts.drives] {
                              for (const Drive& drive : DriveList::drives)

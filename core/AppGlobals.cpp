@@ -21,6 +21,8 @@ bool AppGlobals::mute = false;
 QString AppGlobals::snapshotPath;
 QString AppGlobals::videoPath;
 int AppGlobals::speedUnit = 1;
+int AppGlobals::driveGapSeconds = 10;
+int AppGlobals::incidentScalePercent = 100;
 
 QString AppGlobals::agreementValue(bool updateChecks, bool crashReports) {
     return QString::number(1 | (updateChecks ? 2 : 0) | (crashReports ? 4 : 0));

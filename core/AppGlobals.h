@@ -42,6 +42,10 @@ public:
     static QString defaultVideoFolder();
     // Speeds in the report: 2 miles per hour, anything else kilometres per hour.
     static int speedUnit;
+    // Drives: the longest gap between recordings of one drive (s), and the incident
+    // thresholds in percent of the published ones (80 more sensitive, 125 more relaxed).
+    static int driveGapSeconds;
+    static int incidentScalePercent;
 
     static QString statusLogPath();
 

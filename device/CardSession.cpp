@@ -31,6 +31,7 @@ void CardSession::openSettingDialog(QWidget* parent) {
     connect(&dialog, &SettingView::onSendFormatFinished, this, &CardSession::onFormatFinished);
     connect(&dialog, &SettingView::onSendChangeLanguage, this, &CardSession::onSendChangeLanguage);
     connect(&dialog, &SettingView::onSendSpeedUnit, this, &CardSession::onSendSpeedUnit);
+    connect(&dialog, &SettingView::onSendDriveRules, this, &CardSession::onSendDriveRules);
     connect(&dialog, &SettingView::onSendShowUpdate, this, &CardSession::onSendShowUpdate);
     dialog.exec();
 }

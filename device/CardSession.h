@@ -32,6 +32,8 @@ signals:
     // out and the user wants it.
     void onSendChangeLanguage();
     void onSendSpeedUnit(int unit);
+    // The drive gap or the incident thresholds changed.
+    void onSendDriveRules();
     void onSendShowUpdate(const QString& version);
 
 private slots:

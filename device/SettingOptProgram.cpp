@@ -15,6 +15,8 @@ namespace {
 const char* const kLanguage = QT_TRANSLATE_NOOP("SettingOpt", "Language");
 const char* const kSpeedUnit = QT_TRANSLATE_NOOP("SettingOpt", "Speed Unit");
 const char* const kKeep = QT_TRANSLATE_NOOP("SettingOpt", "Keep Settings");
+const char* const kDriveGap = QT_TRANSLATE_NOOP("SettingOpt", "Drive Gap");
+const char* const kIncidents = QT_TRANSLATE_NOOP("SettingOpt", "Incident Thresholds");
 
 } // namespace
 
@@ -31,6 +33,19 @@ SettingOptProgram::SettingOptProgram(QWidget* parent)
         record(kKeep, SettingOpt::ToggleKind, {},
                QT_TRANSLATE_NOOP("SettingOpt", "Save the window, language, sound and folders "
                                                "when the program closes.")),
+        record(kDriveGap, SettingOpt::ComboKind,
+               {{QStringLiteral("5 s"), 5},
+                {QStringLiteral("10 s"), 10},
+                {QStringLiteral("30 s"), 30},
+                {QStringLiteral("1 min"), 60},
+                {QStringLiteral("5 min"), 300}},
+               QT_TRANSLATE_NOOP("SettingOpt", "Recordings closer than this make one drive.")),
+        record(kIncidents, SettingOpt::ComboKind,
+               {{QStringLiteral("80 %"), 80},
+                {QStringLiteral("100 %"), 100},
+                {QStringLiteral("125 %"), 125}},
+               QT_TRANSLATE_NOOP("SettingOpt", "Of the published thresholds: lower finds more "
+                                               "incidents, higher fewer.")),
     };
     for (const SettingRecord& made : records) {
         auto* option = new SettingOpt(made, look(), this);
@@ -40,6 +55,8 @@ SettingOptProgram::SettingOptProgram(QWidget* parent)
     m_options[0]->setValue(AppGlobals::languageIndex);
     m_options[1]->setValue(AppGlobals::speedUnit == 2 ? 2 : 1);
     m_options[2]->setValue(keepsSettings() ? 1 : 0);
+    m_options[3]->setValue(AppGlobals::driveGapSeconds);
+    m_options[4]->setValue(AppGlobals::incidentScalePercent);
 
     m_snapshot =
         new SettingOptAction(QT_TRANSLATE_NOOP("SettingOpt", "Snapshot Folder"),
@@ -54,7 +71,8 @@ SettingOptProgram::SettingOptProgram(QWidget* parent)
                                    "bProgramReset", this);
     connect(m_reset, &SettingOptAction::clicked, this, &SettingOptProgram::onSendProgramReset);
 
-    addRows({m_options[0], m_options[1], m_snapshot, m_video, m_options[2], m_reset});
+    addRows({m_options[0], m_options[1], m_snapshot, m_video, m_options[3], m_options[4],
+             m_options[2], m_reset});
     retranslate();
 }
 
@@ -91,11 +109,11 @@ void SettingOptProgram::showFolders() {
 void SettingOptProgram::chooseFolder(bool video) {
     logDebug("SettingOptProgram::chooseFolder");
     const QString current = video ? AppGlobals::videoPath : AppGlobals::snapshotPath;
-    const QString folder = TavPrompt::openFolder(
-        this, tr("Choose a folder"),
-        current.isEmpty() ? (video ? AppGlobals::defaultVideoFolder()
-                                   : AppGlobals::defaultSnapshotFolder())
-                          : current);
+    const QString folder =
+        TavPrompt::openFolder(this, tr("Choose a folder"),
+                              current.isEmpty() ? (video ? AppGlobals::defaultVideoFolder()
+                                                         : AppGlobals::defaultSnapshotFolder())
+                                                : current);
     if (folder.isEmpty())
         return;
     (video ? AppGlobals::videoPath : AppGlobals::snapshotPath) = QDir::fromNativeSeparators(folder);
@@ -115,6 +133,14 @@ void SettingOptProgram::onOptionChanged(const QString& name, int value) {
         emit onSendSpeedUnit(value);
     } else if (name == QLatin1String(kKeep)) {
         settings.setValue(kKeepSettingsKey, value != 0);
+    } else if (name == QLatin1String(kDriveGap)) {
+        AppGlobals::driveGapSeconds = value;
+        settings.setValue(kDriveGapKey, value);
+        emit onSendDriveRules();
+    } else if (name == QLatin1String(kIncidents)) {
+        AppGlobals::incidentScalePercent = value;
+        settings.setValue(kIncidentScaleKey, value);
+        emit onSendDriveRules();
     }
     settings.sync();
 }

@@ -9,7 +9,8 @@ class SettingOptAction;
 
 // The settings dialog's page of the program's own settings: the interface language, the
 // unit of speeds, the folders snapshots and video are saved to, whether the program keeps
-// its window, sound and folders when it closes, and the program reset. Each change takes
+// its window, sound and folders when it closes, how drives are made and how sensitive the
+// incident search is, and the program reset. Each change takes
 // effect at once.
 class SettingOptProgram : public SettingOptPage {
     Q_OBJECT
@@ -17,6 +18,8 @@ public:
     // Settings of this page that the main window does not save at its end.
     static constexpr const char* kSpeedUnitKey = "speedUnit";
     static constexpr const char* kKeepSettingsKey = "keepSettings";
+    static constexpr const char* kDriveGapKey = "driveGapSeconds";
+    static constexpr const char* kIncidentScaleKey = "incidentScale";
 
     explicit SettingOptProgram(QWidget* parent = nullptr);
 
@@ -36,6 +39,8 @@ signals:
     void onSendChangeLanguage();
     // The speed unit was switched (1 km/h, 2 miles per hour).
     void onSendSpeedUnit(int unit);
+    // The drive gap or the incident thresholds changed (AppGlobals holds them).
+    void onSendDriveRules();
     // The user asks for the program reset (the dialog asks and does it).
     void onSendProgramReset();
 

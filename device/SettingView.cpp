@@ -247,6 +247,7 @@ void SettingView::buildViewerPages() {
     connect(m_program, &SettingOptProgram::onSendChangeLanguage, this,
             &SettingView::onChangeLanguage);
     connect(m_program, &SettingOptProgram::onSendSpeedUnit, this, &SettingView::onSendSpeedUnit);
+    connect(m_program, &SettingOptProgram::onSendDriveRules, this, &SettingView::onSendDriveRules);
     connect(m_update, &SettingOptUpdate::onSendShowUpdate, this, &SettingView::onSendShowUpdate);
 }
 

@@ -71,6 +71,7 @@ signals:
     // The program page switched the language.
     void onSendChangeLanguage();
     void onSendSpeedUnit(int unit);
+    void onSendDriveRules();
     // The update page found a newer version.
     void onSendShowUpdate(const QString& version);
 

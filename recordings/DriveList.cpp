@@ -34,6 +34,20 @@ DriveRecording DriveList::recordingOf(const RecordingRecord& record) {
     return made;
 }
 
+void DriveList::setRules(int gapSeconds, int thresholdPercent) {
+    rules.maxGapMs = qint64(qMax(1, gapSeconds)) * 1000;
+    const IncidentDetector::Thresholds published;
+    const float scale = float(qBound(10, thresholdPercent, 1000)) / 100.0f;
+    IncidentDetector::Thresholds scaled = published;
+    scaled.brakingG = published.brakingG * scale;
+    scaled.accelerationG = published.accelerationG * scale;
+    scaled.turnG = published.turnG * scale;
+    scaled.impactG = published.impactG * scale;
+    if (scaled.brakingG != thresholds.brakingG)
+        s_incidents.clear();
+    thresholds = scaled;
+}
+
 void DriveList::rebuild() {
     recordings.clear();
     recordings.reserve(RecordingList::records.size());

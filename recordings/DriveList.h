@@ -23,6 +23,9 @@ public:
     static DriveGrouper::Rules rules;
     static IncidentDetector::Thresholds thresholds;
 
+    // The gap that still continues a drive, and the incident thresholds as a percentage of
+    // the published ones; incidents read with other thresholds are forgotten.
+    static void setRules(int gapSeconds, int thresholdPercent);
     // Drives made anew from the recording list; incidents already read are kept.
     static void rebuild();
     // A listed recording as drives see it: its start from the name the list shows.

@@ -1,5 +1,6 @@
 #include "DriveListView.h"
 
+#include "AppGlobals.h"
 #include "DriveList.h"
 #include "DriveTrace.h"
 #include "RecordingList.h"
@@ -62,6 +63,7 @@ DriveListView::DriveListView(QWidget* parent)
                       .replace(QLatin1String("QTableWidget"), QLatin1String("QTreeView")));
     connect(this, &QTreeWidget::itemDoubleClicked, this,
             [this](QTreeWidgetItem* item) { choose(item); });
+    DriveList::setRules(AppGlobals::driveGapSeconds, AppGlobals::incidentScalePercent);
 }
 
 DriveListView::~DriveListView() {
@@ -207,6 +209,12 @@ void DriveListView::onTypeMask(int) {
             child->setHidden(!RecordingList::passes(child->data(NameColumn, kRecordRole).toInt()));
         }
     }
+}
+
+void DriveListView::applyRules() {
+    DriveList::setRules(AppGlobals::driveGapSeconds, AppGlobals::incidentScalePercent);
+    if (isVisible())
+        refresh();
 }
 
 void DriveListView::onChangeLanguage() {

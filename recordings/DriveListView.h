@@ -42,6 +42,9 @@ public slots:
     // The type filter's mask changed.
     void onTypeMask(int mask);
     void onChangeLanguage();
+    // The program settings' drive gap and incident thresholds (AppGlobals): the drives are
+    // made and their incidents read anew.
+    void applyRules();
 
 protected:
     void showEvent(QShowEvent* event) override;

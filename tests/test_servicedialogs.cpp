@@ -583,6 +583,22 @@ private slots:
                  QDir::toNativeSeparators(AppGlobals::defaultVideoFolder()));
         TavPrompt::openFolderHook = nullptr;
 
+        // Drives: the gap and the thresholds are kept and announced at once.
+        QSignalSpy rules(&view, &SettingView::onSendDriveRules);
+        auto* gap = page->option("Drive Gap")->findChild<QComboBox*>();
+        gap->setCurrentIndex(gap->findText("1 min"));
+        emit gap->activated(gap->currentIndex());
+        QCOMPARE(AppGlobals::driveGapSeconds, 60);
+        QCOMPARE(AppGlobals::settings->value("driveGapSeconds").toInt(), 60);
+        auto* thresholds = page->option("Incident Thresholds")->findChild<QComboBox*>();
+        thresholds->setCurrentIndex(thresholds->findText("80 %"));
+        emit thresholds->activated(thresholds->currentIndex());
+        QCOMPARE(AppGlobals::incidentScalePercent, 80);
+        QCOMPARE(rules.count(), 2);
+        gap->setCurrentIndex(gap->findText("10 s"));
+        emit gap->activated(gap->currentIndex());
+        QCOMPARE(AppGlobals::driveGapSeconds, 10);
+
         QVERIFY(SettingOptProgram::keepsSettings());
         page->option("Keep Settings")->findChild<QPushButton*>()->click();
         QVERIFY(!SettingOptProgram::keepsSettings());

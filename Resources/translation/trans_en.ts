@@ -557,8 +557,24 @@
       <translation>Keep Settings</translation>
     </message>
     <message>
+      <source>Drive Gap</source>
+      <translation>Drive Gap</translation>
+    </message>
+    <message>
+      <source>Incident Thresholds</source>
+      <translation>Incident Thresholds</translation>
+    </message>
+    <message>
       <source>Save the window, language, sound and folders when the program closes.</source>
       <translation>Save the window, language, sound and folders when the program closes.</translation>
+    </message>
+    <message>
+      <source>Recordings closer than this make one drive.</source>
+      <translation>Recordings closer than this make one drive.</translation>
+    </message>
+    <message>
+      <source>Of the published thresholds: lower finds more incidents, higher fewer.</source>
+      <translation>Of the published thresholds: lower finds more incidents, higher fewer.</translation>
     </message>
     <message>
       <source>Snapshot Folder</source>

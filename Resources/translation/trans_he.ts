@@ -564,8 +564,24 @@
       <translation>שמירת ההגדרות</translation>
     </message>
     <message>
+      <source>Drive Gap</source>
+      <translation>מרווח נסיעה</translation>
+    </message>
+    <message>
+      <source>Incident Thresholds</source>
+      <translation>ספי אירועים</translation>
+    </message>
+    <message>
       <source>Save the window, language, sound and folders when the program closes.</source>
       <translation>שמירת החלון, השפה, הצליל והתיקיות כשהתוכנה נסגרת.</translation>
+    </message>
+    <message>
+      <source>Recordings closer than this make one drive.</source>
+      <translation>הקלטות קרובות מזה הן נסיעה אחת.</translation>
+    </message>
+    <message>
+      <source>Of the published thresholds: lower finds more incidents, higher fewer.</source>
+      <translation>מהספים שפורסמו: נמוך יותר מוצא יותר אירועים, גבוה יותר פחות.</translation>
     </message>
     <message>
       <source>Snapshot Folder</source>

@@ -557,8 +557,24 @@
       <translation>설정 유지</translation>
     </message>
     <message>
+      <source>Drive Gap</source>
+      <translation>주행 간격</translation>
+    </message>
+    <message>
+      <source>Incident Thresholds</source>
+      <translation>사건 기준</translation>
+    </message>
+    <message>
       <source>Save the window, language, sound and folders when the program closes.</source>
       <translation>프로그램을 닫을 때 창, 언어, 소리, 폴더를 저장합니다.</translation>
+    </message>
+    <message>
+      <source>Recordings closer than this make one drive.</source>
+      <translation>이보다 가까운 녹화는 하나의 주행이 됩니다.</translation>
+    </message>
+    <message>
+      <source>Of the published thresholds: lower finds more incidents, higher fewer.</source>
+      <translation>공개된 기준 대비: 낮추면 더 많은 사건을, 높이면 더 적은 사건을 찾습니다.</translation>
     </message>
     <message>
       <source>Snapshot Folder</source>
