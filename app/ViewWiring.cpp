@@ -79,13 +79,15 @@ void ViewWiring::wireList(const MainParts& parts) {
         QObject::connect(drives, &DriveListView::incidentsRead, parts.drives,
                          [playback = parts.drives] {
                              for (const Drive& drive : DriveList::drives)
-                                 playback->setIncidents(DriveList::key(drive), drive.incidents);
+                                 playback->setIncidents(DriveList::key(drive), drive.incidents,
+                                                        DriveList::route(drive));
                          });
         QObject::connect(drives, &DriveListView::playDrive, parts.drives,
                          [playback = parts.drives](int drive, int record) {
                              if (drive >= 0 && drive < DriveList::drives.size())
                                  playback->play(DriveList::drives.at(drive), DriveList::recordings,
-                                                record);
+                                                record,
+                                                DriveList::route(DriveList::drives.at(drive)));
                          });
     }
     if (!parts.enabled("cbfileState") || !parts.enabled("lFileType"))
@@ -214,6 +216,7 @@ void ViewWiring::wireTelemetry(const MainParts& parts) {
         QObject::connect(player, &PlayerInterface::onSetTextData, map, &MapView::onLoadMap);
         QObject::connect(player, &PlayerInterface::onTimeout_500ms, map, &MapView::onUpdateMap);
         QObject::connect(player, &PlayerInterface::onSendClear, map, &MapView::onClearData);
+        QObject::connect(parts.drives, &DrivePlayback::driveRoute, map, &MapView::onSetDrive);
     }
     if (parts.enabled("ControlView") && parts.control->isEnabledChild("chartView")) {
         PlayControlView* control = parts.control;

@@ -13,12 +13,13 @@ qint64 DrivePlayback::offsetOf(int playIndex) const {
     return m_recordings.at(m_drive.playList.at(playIndex)).startMs - m_drive.startMs;
 }
 
-void DrivePlayback::play(const Drive& drive, const QVector<DriveRecording>& recordings,
-                         int record) {
+void DrivePlayback::play(const Drive& drive, const QVector<DriveRecording>& recordings, int record,
+                         const QVector<TraceSample>& route) {
     if (drive.playList.isEmpty())
         return;
     m_drive = drive;
     m_recordings = recordings;
+    m_route = route;
     logInfo("[DrivePlayback]: drive of %d recordings, %lld ms", int(drive.playList.size()),
             static_cast<long long>(drive.lengthMs()));
     announceIncidents();
@@ -102,13 +103,15 @@ void DrivePlayback::onRecordingSet() {
     }
 }
 
-void DrivePlayback::setIncidents(const QString& playListKey, const QVector<Incident>& incidents) {
+void DrivePlayback::setIncidents(const QString& playListKey, const QVector<Incident>& incidents,
+                                 const QVector<TraceSample>& route) {
     QString key;
     for (int index : m_drive.playList)
         key += m_recordings.at(index).path + '\n';
     if (!isActive() || key != playListKey)
         return;
     m_drive.incidents = incidents;
+    m_route = route;
     announceIncidents();
 }
 
@@ -118,12 +121,14 @@ void DrivePlayback::announceIncidents() {
         marks << int(incident.timeMs);
     emit incidentsChanged(m_drive.incidents);
     emit incidentMarks(marks);
+    emit driveRoute(m_route, m_drive.incidents);
 }
 
 void DrivePlayback::clear() {
-    const bool had = !m_drive.incidents.isEmpty();
+    const bool had = isActive();
     m_drive = Drive();
     m_recordings.clear();
+    m_route.clear();
     m_current = -1;
     m_expected.clear();
     m_pendingSeekMs = 0;

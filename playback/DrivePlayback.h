@@ -2,6 +2,7 @@
 
 #include "Drive.h"
 #include "DriveRecording.h"
+#include "TraceSample.h"
 
 #include <QObject>
 #include <QString>
@@ -32,6 +33,8 @@ signals:
     // the drive for the slider.
     void incidentsChanged(const QVector<Incident>& incidents);
     void incidentMarks(const QVector<int>& driveMs);
+    // The drive's route and incidents for the map; both empty when the drive ends.
+    void driveRoute(const QVector<TraceSample>& route, const QVector<Incident>& incidents);
     // Without a drive: the panel's requests for the list.
     void forwardToList();
     void stepInList(int direction);
@@ -41,7 +44,8 @@ signals:
 
 public slots:
     // Plays drive from its start, or from where record (an index into recordings) starts.
-    void play(const Drive& drive, const QVector<DriveRecording>& recordings, int record);
+    void play(const Drive& drive, const QVector<DriveRecording>& recordings, int record,
+              const QVector<TraceSample>& route = {});
     // The panel's slider or chart: drive time while a drive plays, else recording time.
     void onSeek(int ms);
     // The recording that played ended: the drive's next one, or the list's.
@@ -53,7 +57,8 @@ public slots:
     void onRecordingSet();
     // The drive's incidents came (they are read in the background); for another drive
     // (key: DriveList's key of its play list) nothing changes.
-    void setIncidents(const QString& playListKey, const QVector<Incident>& incidents);
+    void setIncidents(const QString& playListKey, const QVector<Incident>& incidents,
+                      const QVector<TraceSample>& route);
     // Leaves the drive (the list was emptied, the card taken).
     void clear();
 
@@ -62,6 +67,7 @@ private:
     void announceIncidents();
 
     Drive m_drive;
+    QVector<TraceSample> m_route;
     QVector<DriveRecording> m_recordings;
     int m_current = -1;
     QString m_expected;

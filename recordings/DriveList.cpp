@@ -10,6 +10,7 @@ QVector<Drive> DriveList::drives;
 DriveGrouper::Rules DriveList::rules;
 IncidentDetector::Thresholds DriveList::thresholds;
 QHash<QString, QVector<Incident>> DriveList::s_incidents;
+QHash<QString, QVector<TraceSample>> DriveList::s_routes;
 
 qint64 DriveList::startOf(const QString& displayName) {
     QDateTime start =
@@ -79,8 +80,10 @@ QString DriveList::key(const Drive& drive, const QVector<DriveRecording>& from) 
     return made;
 }
 
-void DriveList::setIncidents(const QString& key, const QVector<Incident>& incidents) {
+void DriveList::setIncidents(const QString& key, const QVector<Incident>& incidents,
+                             const QVector<TraceSample>& route) {
     s_incidents.insert(key, incidents);
+    s_routes.insert(key, route);
     for (Drive& drive : drives)
         if (DriveList::key(drive) == key)
             drive.incidents = incidents;
@@ -90,4 +93,5 @@ void DriveList::clear() {
     recordings.clear();
     drives.clear();
     s_incidents.clear();
+    s_routes.clear();
 }

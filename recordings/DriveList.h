@@ -43,10 +43,14 @@ public:
     static QString key(const Drive& drive) { return key(drive, recordings); }
     static QString key(const Drive& drive, const QVector<DriveRecording>& from);
     static bool hasIncidents(const Drive& drive) { return s_incidents.contains(key(drive)); }
-    static void setIncidents(const QString& key, const QVector<Incident>& incidents);
+    static void setIncidents(const QString& key, const QVector<Incident>& incidents,
+                             const QVector<TraceSample>& route = {});
+    // The drive's positions (DriveTrace::route), once its telemetry has been read.
+    static QVector<TraceSample> route(const Drive& drive) { return s_routes.value(key(drive)); }
     // Forgets every drive and incident (a new list).
     static void clear();
 
 private:
     static QHash<QString, QVector<Incident>> s_incidents;
+    static QHash<QString, QVector<TraceSample>> s_routes;
 };

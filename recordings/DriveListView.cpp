@@ -176,15 +176,17 @@ void DriveListView::readIncidents() {
         m_pool->start([self, cancel, drive, recordings, thresholds] {
             if (cancel->load())
                 return;
-            const QVector<Incident> found = DriveTrace::incidents(
-                drive, recordings, DriveTrace::read(drive, recordings), thresholds);
+            const QVector<TraceSample> trace = DriveTrace::read(drive, recordings);
+            const QVector<Incident> found =
+                DriveTrace::incidents(drive, recordings, trace, thresholds);
+            const QVector<TraceSample> route = DriveTrace::route(trace);
             const QString key = DriveList::key(drive, recordings);
             QMetaObject::invokeMethod(
                 qApp,
-                [self, cancel, key, found] {
+                [self, cancel, key, found, route] {
                     if (self == nullptr || cancel->load())
                         return;
-                    DriveList::setIncidents(key, found);
+                    DriveList::setIncidents(key, found, route);
                     for (int i = 0; i < DriveList::drives.size(); ++i)
                         if (DriveList::key(DriveList::drives.at(i)) == key)
                             self->showCounts(i);

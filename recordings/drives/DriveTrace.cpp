@@ -63,6 +63,17 @@ QVector<TraceSample> DriveTrace::read(const Drive& drive,
     return trace;
 }
 
+QVector<TraceSample> DriveTrace::route(const QVector<TraceSample>& trace) {
+    QVector<TraceSample> points;
+    for (const TraceSample& sample : trace) {
+        if (sample.latitude == 0 && sample.longitude == 0)
+            continue;
+        if (points.isEmpty() || sample.timeMs >= points.constLast().timeMs + 1000)
+            points.append(sample);
+    }
+    return points;
+}
+
 QVector<Incident> DriveTrace::incidents(const Drive& drive,
                                         const QVector<DriveRecording>& recordings,
                                         const QVector<TraceSample>& trace,

@@ -20,6 +20,9 @@ public:
     // two recordings share moments, the first one's readings are kept.
     static QVector<TraceSample> read(const Drive& drive, const QVector<DriveRecording>& recordings);
 
+    // The positions of a trace, one a second at most: the drive's route for a map.
+    static QVector<TraceSample> route(const QVector<TraceSample>& trace);
+
     // The drive's incidents: those found in its trace, and the camera's own event
     // recordings. An event recording whose time holds a found incident marks that incident
     // (byCamera) instead of adding one; one that holds none adds a camera event at its

@@ -83,9 +83,11 @@ void MapView::setLoadMap(bool ok) {
     else
         logInfo("[MapView]: Failed to set map data.");
     m_mapLoaded = ok;
-    // A new map has no route: the recording's goes on it again.
-    if (ok && !m_points.isEmpty())
+    // A new map has no route: the recording's (or the drive's) goes on it again.
+    if (ok && (!m_points.isEmpty() || !m_driveRoute.isEmpty()))
         run(routeScript());
+    if (ok && !m_incidents.isEmpty())
+        run(incidentScript());
 }
 
 void MapView::onLoadMap() {
@@ -97,12 +99,20 @@ void MapView::onLoadMap() {
         m_points.append({point.index, point.latitude, point.longitude, point.speed});
     m_usedDefault = false;
     m_noFix[0] = m_noFix[1] = false;
+    // The next recording of a drive: the map, the drive's route and the car stay.
+    if (PlaybackState::inDrive() && m_driveShown && m_pageLoaded) {
+        m_mapLoaded = true;
+        return;
+    }
+    m_driveShown = PlaybackState::inDrive();
     if (m_pageLoaded) {
         run(QStringLiteral("initMap()"));
         logInfo("[MapView]: Set map data is complete.");
         m_mapLoaded = true;
-        if (!m_points.isEmpty())
+        if (!m_points.isEmpty() || !m_driveRoute.isEmpty())
             run(routeScript());
+        if (!m_incidents.isEmpty())
+            run(incidentScript());
     }
     if (m_points.isEmpty())
         return;
@@ -178,11 +188,45 @@ void MapView::showPosition(double latitude, double longitude, double speed, bool
                      first ? QStringLiteral("true") : QStringLiteral("false")));
 }
 
+void MapView::onSetDrive(const QVector<TraceSample>& route, const QVector<Incident>& incidents) {
+    logDebug("MapView::onSetDrive");
+    m_driveRoute.clear();
+    for (const TraceSample& sample : route)
+        m_driveRoute.append({0, sample.latitude, sample.longitude, sample.speedKmh});
+    m_incidents.clear();
+    for (const Incident& incident : incidents)
+        if (incident.latitude != 0 || incident.longitude != 0)
+            m_incidents.append(incident);
+    if (route.isEmpty() && incidents.isEmpty())
+        m_driveShown = false;
+    if (!m_mapLoaded)
+        return;
+    run(routeScript());
+    run(incidentScript());
+}
+
+QString MapView::incidentScript() const {
+    QStringList pins;
+    for (const Incident& incident : m_incidents) {
+        const qint64 seconds = incident.timeMs / 1000;
+        const QString when = QStringLiteral("%1:%2")
+                                 .arg(seconds / 60, 2, 10, QLatin1Char('0'))
+                                 .arg(seconds % 60, 2, 10, QLatin1Char('0'));
+        pins << QStringLiteral("[%1,%2,\"%3 %4 g\"]")
+                    .arg(coordinate(incident.latitude), coordinate(incident.longitude), when,
+                         QString::number(incident.peakG, 'f', 2));
+    }
+    return QStringLiteral("setIncidents([%1])").arg(pins.join(','));
+}
+
 QString MapView::routeScript() const {
     QStringList points;
-    const int step = std::max(1, int((m_points.size() + kMaxRoutePoints - 1) / kMaxRoutePoints));
-    for (int i = 0; i < m_points.size(); i += step) {
-        const MapPoint& point = m_points.at(i);
+    // While a drive plays its whole route is drawn, not the recording's.
+    const QVector<MapPoint>& shown =
+        PlaybackState::inDrive() && !m_driveRoute.isEmpty() ? m_driveRoute : m_points;
+    const int step = std::max(1, int((shown.size() + kMaxRoutePoints - 1) / kMaxRoutePoints));
+    for (int i = 0; i < shown.size(); i += step) {
+        const MapPoint& point = shown.at(i);
         points << QStringLiteral("[%1,%2,%3]")
                       .arg(coordinate(point.latitude), coordinate(point.longitude),
                            QString::number(point.speed, 'f', 1));
@@ -194,7 +238,9 @@ void MapView::onClearData() {
     logDebug("MapView::onClearData");
     m_points.clear();
     m_lastPosition.clear();
-    m_mapLoaded = false;
+    // Between a drive's recordings the map stays as it is.
+    if (!PlaybackState::inDrive())
+        m_mapLoaded = false;
     emit onSendBlockKeyboardEvent(false);
 }
 

@@ -1,6 +1,8 @@
 #pragma once
 
+#include "Incident.h"
 #include "TavWidget.h"
+#include "TraceSample.h"
 
 #include <QImage>
 #include <QPoint>
@@ -48,6 +50,8 @@ signals:
     void scriptSent(const QString& script);
 
 public slots:
+    // The drive that plays: its whole route and its incidents (both empty: no drive).
+    void onSetDrive(const QVector<TraceSample>& route, const QVector<Incident>& incidents);
     void setLoadMap(bool ok);
     void onLoadMap();
     void onUpdateMap();
@@ -60,6 +64,8 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    // The drive's route and incident pins while a drive plays.
+    QString incidentScript() const;
     struct MapPoint {
         int index;
         float latitude;
@@ -78,6 +84,10 @@ private:
     QWebEngineView* m_web = nullptr;
     QLabel* m_error = nullptr;
     QVector<MapPoint> m_points;
+    QVector<MapPoint> m_driveRoute;
+    QVector<Incident> m_incidents;
+    // The map was set up for the drive that plays: its next recordings keep it.
+    bool m_driveShown = false;
     bool m_pageLoaded = false;
     bool m_mapLoaded = false;
     bool m_pageFailed = false;

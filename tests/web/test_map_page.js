@@ -102,10 +102,30 @@ async function run(browser, online) {
         name + ": a new map keeps the unit (" + state.car.speed + ", " + state.scale + ")");
   await page.evaluate(() => setSpeedUnit(false));
 
+  // A drive's incidents as pins where they happened, each with its tool tip; replaced, not
+  // added to, by the next call.
+  await page.evaluate(() => setIncidents([[37.5, 127.002, "01:28 1.24 g"],
+                                          [37.5, 127.006, "02:10 0.52 g"]]));
+  let pins = await page.evaluate(() => Array.from(document.querySelectorAll("path.incident"))
+      .map((pin) => pin.getAttribute("fill")));
+  check(pins.length === 2 && pins.every((fill) => fill === "#ffa02e"),
+        name + ": two incident pins (" + pins.join(", ") + ")");
+  await page.hover("path.incident");
+  const tip = await page.evaluate(() => {
+    const shown = document.querySelector(".leaflet-tooltip");
+    return shown ? shown.textContent : "";
+  });
+  check(tip === "01:28 1.24 g" || tip === "02:10 0.52 g", name + ": a pin tells what (" + tip + ")");
+  await page.evaluate(() => setIncidents([[37.5, 127.004, "00:05 0.50 g"]]));
+  pins = await page.evaluate(() => document.querySelectorAll("path.incident").length);
+  check(pins === 1, name + ": the next drive's pins replace the last ones (" + pins + ")");
+
   // A new recording starts on a new map.
   await page.evaluate(() => initMap());
   state = await mapState(page);
-  check(state.car === null && state.colours.length === 0, name + ": initMap() clears the last recording");
+  check(state.car === null && state.colours.length === 0 &&
+        (await page.evaluate(() => document.querySelectorAll("path.incident").length)) === 0,
+        name + ": initMap() clears the last recording");
   await page.evaluate((route) => setRoute(route), ROUTE);
   await page.evaluate(() => setLatLng(37.50000, 127.00000, 95, true));
   await page.waitForTimeout(600);
