@@ -80,14 +80,14 @@ void ViewWiring::wireList(const MainParts& parts) {
                          [playback = parts.drives] {
                              for (const Drive& drive : DriveList::drives)
                                  playback->setIncidents(DriveList::key(drive), drive.incidents,
-                                                        DriveList::route(drive));
+                                                        DriveList::trace(drive));
                          });
         QObject::connect(drives, &DriveListView::playDrive, parts.drives,
                          [playback = parts.drives](int drive, int record) {
                              if (drive >= 0 && drive < DriveList::drives.size())
                                  playback->play(DriveList::drives.at(drive), DriveList::recordings,
                                                 record,
-                                                DriveList::route(DriveList::drives.at(drive)));
+                                                DriveList::trace(DriveList::drives.at(drive)));
                          });
     }
     if (!parts.enabled("cbfileState") || !parts.enabled("lFileType"))
@@ -235,5 +235,7 @@ void ViewWiring::wireTelemetry(const MainParts& parts) {
                          &DrivePlayback::onSeek);
         QObject::connect(control, &PlayControlView::onSendClear, chart, &ChartView::onClearData);
         QObject::connect(chart, &ChartView::onSendSeek, control, &PlayControlView::onSeekTo);
+        QObject::connect(parts.drives, &DrivePlayback::driveTrace, chart,
+                         &ChartView::onSetDriveTrace);
     }
 }

@@ -1,5 +1,6 @@
 #include "DrivePlayback.h"
 
+#include "DriveTrace.h"
 #include "PlaybackState.h"
 #include "StatusLog.h"
 
@@ -14,12 +15,12 @@ qint64 DrivePlayback::offsetOf(int playIndex) const {
 }
 
 void DrivePlayback::play(const Drive& drive, const QVector<DriveRecording>& recordings, int record,
-                         const QVector<TraceSample>& route) {
+                         const QVector<TraceSample>& trace) {
     if (drive.playList.isEmpty())
         return;
     m_drive = drive;
     m_recordings = recordings;
-    m_route = route;
+    m_trace = trace;
     logInfo("[DrivePlayback]: drive of %d recordings, %lld ms", int(drive.playList.size()),
             static_cast<long long>(drive.lengthMs()));
     announceIncidents();
@@ -104,14 +105,14 @@ void DrivePlayback::onRecordingSet() {
 }
 
 void DrivePlayback::setIncidents(const QString& playListKey, const QVector<Incident>& incidents,
-                                 const QVector<TraceSample>& route) {
+                                 const QVector<TraceSample>& trace) {
     QString key;
     for (int index : m_drive.playList)
         key += m_recordings.at(index).path + '\n';
     if (!isActive() || key != playListKey)
         return;
     m_drive.incidents = incidents;
-    m_route = route;
+    m_trace = trace;
     announceIncidents();
 }
 
@@ -121,14 +122,15 @@ void DrivePlayback::announceIncidents() {
         marks << int(incident.timeMs);
     emit incidentsChanged(m_drive.incidents);
     emit incidentMarks(marks);
-    emit driveRoute(m_route, m_drive.incidents);
+    emit driveRoute(DriveTrace::route(m_trace), m_drive.incidents);
+    emit driveTrace(m_trace);
 }
 
 void DrivePlayback::clear() {
     const bool had = isActive();
     m_drive = Drive();
     m_recordings.clear();
-    m_route.clear();
+    m_trace.clear();
     m_current = -1;
     m_expected.clear();
     m_pendingSeekMs = 0;

@@ -35,6 +35,8 @@ signals:
     void incidentMarks(const QVector<int>& driveMs);
     // The drive's route and incidents for the map; both empty when the drive ends.
     void driveRoute(const QVector<TraceSample>& route, const QVector<Incident>& incidents);
+    // The drive's G-sensor readings on its time, for the chart; empty when the drive ends.
+    void driveTrace(const QVector<TraceSample>& trace);
     // Without a drive: the panel's requests for the list.
     void forwardToList();
     void stepInList(int direction);
@@ -45,7 +47,7 @@ signals:
 public slots:
     // Plays drive from its start, or from where record (an index into recordings) starts.
     void play(const Drive& drive, const QVector<DriveRecording>& recordings, int record,
-              const QVector<TraceSample>& route = {});
+              const QVector<TraceSample>& trace = {});
     // The panel's slider or chart: drive time while a drive plays, else recording time.
     void onSeek(int ms);
     // The recording that played ended: the drive's next one, or the list's.
@@ -58,7 +60,7 @@ public slots:
     // The drive's incidents came (they are read in the background); for another drive
     // (key: DriveList's key of its play list) nothing changes.
     void setIncidents(const QString& playListKey, const QVector<Incident>& incidents,
-                      const QVector<TraceSample>& route);
+                      const QVector<TraceSample>& trace);
     // Leaves the drive (the list was emptied, the card taken).
     void clear();
 
@@ -67,7 +69,7 @@ private:
     void announceIncidents();
 
     Drive m_drive;
-    QVector<TraceSample> m_route;
+    QVector<TraceSample> m_trace;
     QVector<DriveRecording> m_recordings;
     int m_current = -1;
     QString m_expected;

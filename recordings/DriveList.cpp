@@ -10,7 +10,7 @@ QVector<Drive> DriveList::drives;
 DriveGrouper::Rules DriveList::rules;
 IncidentDetector::Thresholds DriveList::thresholds;
 QHash<QString, QVector<Incident>> DriveList::s_incidents;
-QHash<QString, QVector<TraceSample>> DriveList::s_routes;
+QHash<QString, QVector<TraceSample>> DriveList::s_traces;
 
 qint64 DriveList::startOf(const QString& displayName) {
     QDateTime start =
@@ -81,9 +81,9 @@ QString DriveList::key(const Drive& drive, const QVector<DriveRecording>& from) 
 }
 
 void DriveList::setIncidents(const QString& key, const QVector<Incident>& incidents,
-                             const QVector<TraceSample>& route) {
+                             const QVector<TraceSample>& trace) {
     s_incidents.insert(key, incidents);
-    s_routes.insert(key, route);
+    s_traces.insert(key, trace);
     for (Drive& drive : drives)
         if (DriveList::key(drive) == key)
             drive.incidents = incidents;
@@ -93,5 +93,5 @@ void DriveList::clear() {
     recordings.clear();
     drives.clear();
     s_incidents.clear();
-    s_routes.clear();
+    s_traces.clear();
 }

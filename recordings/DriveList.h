@@ -44,13 +44,13 @@ public:
     static QString key(const Drive& drive, const QVector<DriveRecording>& from);
     static bool hasIncidents(const Drive& drive) { return s_incidents.contains(key(drive)); }
     static void setIncidents(const QString& key, const QVector<Incident>& incidents,
-                             const QVector<TraceSample>& route = {});
-    // The drive's positions (DriveTrace::route), once its telemetry has been read.
-    static QVector<TraceSample> route(const Drive& drive) { return s_routes.value(key(drive)); }
+                             const QVector<TraceSample>& trace = {});
+    // The drive's telemetry on its time (DriveTrace::read), once it has been read.
+    static QVector<TraceSample> trace(const Drive& drive) { return s_traces.value(key(drive)); }
     // Forgets every drive and incident (a new list).
     static void clear();
 
 private:
     static QHash<QString, QVector<Incident>> s_incidents;
-    static QHash<QString, QVector<TraceSample>> s_routes;
+    static QHash<QString, QVector<TraceSample>> s_traces;
 };

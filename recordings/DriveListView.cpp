@@ -179,14 +179,13 @@ void DriveListView::readIncidents() {
             const QVector<TraceSample> trace = DriveTrace::read(drive, recordings);
             const QVector<Incident> found =
                 DriveTrace::incidents(drive, recordings, trace, thresholds);
-            const QVector<TraceSample> route = DriveTrace::route(trace);
             const QString key = DriveList::key(drive, recordings);
             QMetaObject::invokeMethod(
                 qApp,
-                [self, cancel, key, found, route] {
+                [self, cancel, key, found, trace] {
                     if (self == nullptr || cancel->load())
                         return;
-                    DriveList::setIncidents(key, found, route);
+                    DriveList::setIncidents(key, found, trace);
                     for (int i = 0; i < DriveList::drives.size(); ++i)
                         if (DriveList::key(DriveList::drives.at(i)) == key)
                             self->showCounts(i);

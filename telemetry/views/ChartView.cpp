@@ -44,8 +44,45 @@ bool ChartView::hasRecording() const {
            PlaybackState::totalTime > 0;
 }
 
+bool ChartView::showsDrive() const {
+    return PlaybackState::inDrive() && !m_drive.isEmpty();
+}
+
+void ChartView::onSetDriveTrace(const QVector<TraceSample>& trace) {
+    logDebug("ChartView::onSetDriveTrace");
+    m_drive = trace;
+    m_windowStart = -1;
+    if (showsDrive()) {
+        m_chartLoaded = true;
+        fillDriveWindow(0);
+    }
+    update();
+}
+
+void ChartView::fillDriveWindow(qint64 windowStart) {
+    m_windowStart = windowStart;
+    for (auto& series : m_series)
+        series.clear();
+    const auto first =
+        std::lower_bound(m_drive.cbegin(), m_drive.cend(), windowStart,
+                         [](const TraceSample& sample, qint64 ms) { return sample.timeMs < ms; });
+    for (auto it = first; it != m_drive.cend() && it->timeMs < windowStart + kWindowMs; ++it) {
+        const double k = double(it->timeMs - windowStart) / 100.0;
+        m_series[0].append(QPointF(k, it->x));
+        m_series[1].append(QPointF(k, it->y));
+        m_series[2].append(QPointF(k, it->z));
+    }
+    m_sampleCount = m_series[0].size();
+    rebuildLines();
+}
+
 void ChartView::onloadChart() {
     logDebug("ChartView::onloadChart");
+    // A drive's chart stays on the drive's trace from recording to recording.
+    if (showsDrive()) {
+        m_chartLoaded = true;
+        return;
+    }
     logInfo("[ChartView]: Load chart data completely.");
     const QList<GSensorPoint>& points = PlaybackState::gSensorList;
     if (!points.isEmpty())
@@ -65,7 +102,22 @@ void ChartView::onloadChart() {
 
 void ChartView::onUpdateChart() {
     logDebug("ChartView::onUpdateChart");
-    if (PlaybackState::telemetryPresent && hasRecording()) {
+    if (showsDrive() && hasRecording()) {
+        m_chartActive = true;
+        m_chartLoaded = true;
+        // The window moves on by half its width when the play time nears its end.
+        const qint64 now = qint64(PlaybackState::shownTime());
+        if (m_windowStart < 0 || now < m_windowStart || now > m_windowStart + kWindowMs * 3 / 4)
+            fillDriveWindow(std::max<qint64>(0, now - kWindowMs / 4));
+        const auto at = std::lower_bound(
+            m_drive.cbegin(), m_drive.cend(), now,
+            [](const TraceSample& sample, qint64 ms) { return sample.timeMs < ms; });
+        if (at != m_drive.cend()) {
+            const double values[3] = {at->x, at->y, at->z};
+            for (int axis = 0; axis < 3; ++axis)
+                m_values[axis]->setText(QString::number(values[axis], 'f', 3));
+        }
+    } else if (PlaybackState::telemetryPresent && hasRecording()) {
         m_chartActive = true;
         const int size = m_series[0].size();
         const int i = int(size * PlaybackState::currentTime / PlaybackState::totalTime);
@@ -87,6 +139,7 @@ void ChartView::onClearData() {
         m_values[axis]->setText(QStringLiteral("0.000"));
     }
     m_sampleCount = 0;
+    m_windowStart = -1;
     m_chartLoaded = false;
     m_chartActive = false;
     m_dragX = -1;
@@ -94,7 +147,10 @@ void ChartView::onClearData() {
 }
 
 void ChartView::rebuildLines() {
-    const QSize bar = m_bar->size();
+    QSize bar = m_bar->size();
+    // A drive's window is kWindowMs wide whatever part of it has readings (the drive's end).
+    if (showsDrive())
+        bar.setWidth(int(qint64(bar.width()) * m_series[0].size() / (kWindowMs / 100)));
     for (int axis = 0; axis < 3; ++axis) {
         QVector<double> values;
         values.reserve(m_series[axis].size());
@@ -111,7 +167,7 @@ void ChartView::resizeEvent(QResizeEvent* event) {
 }
 
 void ChartView::paintEvent(QPaintEvent*) {
-    if (PlaybackState::gSensorList.isEmpty() || !m_chartLoaded)
+    if ((PlaybackState::gSensorList.isEmpty() && !showsDrive()) || !m_chartLoaded)
         return;
     QPainter painter(this);
     const QRect bar = barRect();
@@ -124,9 +180,11 @@ void ChartView::paintEvent(QPaintEvent*) {
     painter.restore();
     if (PlaybackState::totalTime <= 0)
         return;
-    const int x =
-        m_dragX >= 0 ? m_dragX
-                     : int(bar.width() * PlaybackState::currentTime / PlaybackState::totalTime);
+    int x = m_dragX;
+    if (x < 0)
+        x = showsDrive() ? bar.x() + int(bar.width() *
+                                         (PlaybackState::shownTime() - m_windowStart) / kWindowMs)
+                         : int(bar.width() * PlaybackState::currentTime / PlaybackState::totalTime);
     painter.setPen(Qt::white);
     painter.drawLine(x, bar.top(), x, bar.bottom());
 }
@@ -134,6 +192,10 @@ void ChartView::paintEvent(QPaintEvent*) {
 int ChartView::timeAt(int x) const {
     const QRect bar = barRect();
     const double share = std::clamp(double(x - bar.x()) / std::max(1, bar.width()), 0.0, 1.0);
+    // In a drive, the recording's time of the moment under x: the panel adds where the
+    // recording starts, as it does for the recording's own chart.
+    if (showsDrive())
+        return int(m_windowStart + share * kWindowMs - PlaybackState::driveOffsetMs);
     return int(share * PlaybackState::totalTime);
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "TavWidget.h"
+#include "TraceSample.h"
 
 #include <QLine>
 #include <QPointF>
@@ -29,6 +30,9 @@ signals:
     void onSendSeek(int ms);
 
 public slots:
+    // While a drive plays: its readings on its time (empty: none plays). The bar then shows
+    // the drive's trace around the play time, kWindowMs wide.
+    void onSetDriveTrace(const QVector<TraceSample>& trace);
     void onloadChart();
     void onUpdateChart();
     void onClearData();
@@ -40,8 +44,14 @@ protected:
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
 
+public:
+    static constexpr int kWindowMs = 120000;
+
 private:
     bool hasRecording() const;
+    bool showsDrive() const;
+    // The drive's readings from windowStart, kWindowMs wide, as the series.
+    void fillDriveWindow(qint64 windowStart);
     // The moment under x (view coordinates), in ms of the recording.
     int timeAt(int x) const;
     void rebuildLines();
@@ -60,4 +70,7 @@ private:
     // While the user drags along the bar, the line follows the pointer; playback moves when
     // the button is let go.
     int m_dragX = -1;
+    QVector<TraceSample> m_drive;
+    // The drive time the bar starts at; -1 before the first window.
+    qint64 m_windowStart = -1;
 };
