@@ -3,9 +3,11 @@
 #include "AppGlobals.h"
 #include "ChartTrace.h"
 #include "ChartView.h"
+#include "Incident.h"
 #include "MapPageCipher.h"
 #include "MapView.h"
 #include "PlaybackState.h"
+#include "TraceSample.h"
 
 #include <QApplication>
 #include <QFile>
@@ -223,11 +225,109 @@ private slots:
         QCOMPARE(seek.count(), 1);
     }
 
+    // A drive plays: the bar shows the drive's readings two minutes wide around the play
+    // time, whichever recording plays, and a click gives the recording's time of the moment.
+    void chartFollowsTheDrive() {
+        ChartView chart;
+        chart.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&chart));
+        // Ten minutes of a drive: X rises with time, so each window's picture differs.
+        QVector<TraceSample> trace;
+        for (int k = 0; k < 6000; ++k) {
+            TraceSample sample;
+            sample.timeMs = k * 100;
+            sample.x = float(k) / 6000.0f;
+            sample.y = -1;
+            sample.z = 0.5f;
+            trace.append(sample);
+        }
+        fillGSensor(10); // the recording's own, which the drive's replaces
+        setPlaying(5000, 60000);
+        PlaybackState::driveOffsetMs = 240000;
+        PlaybackState::driveLengthMs = 600000;
+        chart.onSetDriveTrace(trace);
+        chart.onloadChart();
+        chart.onUpdateChart();
+        // 245 s into the drive: X there is 2450 / 6000.
+        bool shown = false;
+        for (QLabel* label : chart.findChildren<QLabel*>())
+            shown = shown || label->text() == QString::number(2450.0 / 6000.0, 'f', 3);
+        QVERIFY(shown);
+        QVERIFY(countColour(chart, ChartView::kAxisColours[1]) > chart.barRect().width() / 2);
+        QSignalSpy seek(&chart, &ChartView::onSendSeek);
+        const QRect bar = chart.barRect();
+        QTest::mouseClick(&chart, Qt::LeftButton, {}, QPoint(bar.x() + bar.width() / 2, 20));
+        QCOMPARE(seek.count(), 1);
+        // The window starts a quarter before the play time (215 s): its middle is 275 s, which
+        // is 35 s into the recording that starts at 240 s.
+        QVERIFY2(qAbs(seek.last().at(0).toInt() - 35000) < 500,
+                 qPrintable(QString::number(seek.last().at(0).toInt())));
+        PlaybackState::driveOffsetMs = -1;
+        PlaybackState::driveLengthMs = 0;
+        chart.onSetDriveTrace({});
+    }
+
     // ---- Map ----
+
+    // While a drive plays the map keeps the drive's route and pins from recording to
+    // recording; the next recording only moves the car.
+    void mapKeepsTheDriveAcrossItsRecordings() {
+        MapView map;
+        waitForPage(map);
+        QSignalSpy scripts(&map, &MapView::scriptSent);
+        PlaybackState::driveOffsetMs = 0;
+        PlaybackState::driveLengthMs = 20000;
+        QVector<TraceSample> route;
+        for (int i = 0; i < 20; ++i) {
+            TraceSample point;
+            point.timeMs = i * 1000;
+            point.latitude = 37.5f;
+            point.longitude = 127.0f + i * 0.0001f;
+            point.speedKmh = 40;
+            route.append(point);
+        }
+        Incident braking;
+        braking.timeMs = 12000;
+        braking.peakG = 0.62f;
+        braking.latitude = 37.5f;
+        braking.longitude = 127.0012f;
+        PlaybackState::gpsList = {{0, 37.5f, 127.0f, 40.0f, 0, 0},
+                                  {1, 37.5f, 127.0001f, 40.0f, 0, 0}};
+        setPlaying(0, 10000);
+        map.onSetDrive(route, {braking});
+        map.onLoadMap();
+        QStringList sent = take(scripts);
+        QVERIFY(sent.contains("initMap()"));
+        const auto routeSent = std::find_if(sent.cbegin(), sent.cend(), [](const QString& script) {
+            return script.startsWith("setRoute(");
+        });
+        QVERIFY(routeSent != sent.cend() && routeSent->count("],[") == 19);
+        QVERIFY(sent.contains("setIncidents([[37.50000,127.00120,\"00:12 0.62 g\"]])"));
+        // The drive's next recording: no new map, no new route.
+        map.onClearData();
+        PlaybackState::driveOffsetMs = 10000;
+        PlaybackState::gpsList = {{0, 37.5f, 127.001f, 40.0f, 0, 0},
+                                  {1, 37.5f, 127.0011f, 40.0f, 0, 0}};
+        map.onLoadMap();
+        sent = take(scripts);
+        QVERIFY2(
+            !sent.contains("initMap()") &&
+                std::none_of(sent.cbegin(), sent.cend(),
+                             [](const QString& script) { return script.startsWith("setRoute("); }),
+            qPrintable(sent.join(" | ")));
+        // The drive ends: the next recording gets a map of its own.
+        PlaybackState::driveOffsetMs = -1;
+        PlaybackState::driveLengthMs = 0;
+        map.onSetDrive({}, {});
+        map.onClearData();
+        map.onLoadMap();
+        sent = take(scripts);
+        QVERIFY(sent.contains("initMap()"));
+    }
 
     void mapSendsNothingButInitMapBeforeItsPageIsUp() {
         PlaybackState::gpsList = {{0, 37.5f, 127.0f, 40.0f, 0, 0},
-                                    {1, 37.5f, 127.001f, 41.0f, 0, 0}};
+                                  {1, 37.5f, 127.001f, 41.0f, 0, 0}};
         MapView map;
         QSignalSpy scripts(&map, &MapView::scriptSent);
         setPlaying(500, 1000);
@@ -247,7 +347,7 @@ private slots:
     // label changes at once (the page's labels in either unit: test_map_page.js).
     void mapShowsSpeedsInTheChosenUnit() {
         PlaybackState::gpsList = {{0, 37.5f, 127.0f, 80.0f, 0, 0},
-                                    {1, 37.5f, 127.001f, 80.0f, 0, 0}};
+                                  {1, 37.5f, 127.001f, 80.0f, 0, 0}};
         MapView map;
         waitForPage(map);
         setPlaying(0, 1000);
