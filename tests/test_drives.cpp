@@ -2,12 +2,15 @@
 // the demo set read from its files.
 
 #include "DriveGrouper.h"
+#include "DriveList.h"
 #include "DriveTrace.h"
 #include "IncidentDetector.h"
 #include "RecordingName.h"
+#include "RecordingRecord.h"
 
 #include <QDateTime>
 #include <QDir>
+#include <QTemporaryDir>
 #include <QtTest>
 
 #include <cmath>
@@ -155,6 +158,34 @@ private slots:
         QFETCH(QVector<DriveRecording>, recordings);
         QFETCH(QString, drives);
         QCOMPARE(describe(DriveGrouper::group(recordings), recordings), drives);
+    }
+
+    // The list's records, as the viewer has them for other cameras' names and for one-file
+    // recordings, start where their shown names say; the files need not exist for that.
+    void listedRecordsOfOtherCamerasMakeDrives() {
+        const QTemporaryDir folder;
+        QVector<RecordingRecord> records;
+        const char* const names[] = {"2024_0612_235900_001F.MP4", "2024_0612_236000_002F.MP4",
+                                     "20240613_000000_0003_NOR_F.MP4", "20240613_000100_4.mp4",
+                                     "REC_2024_06_13_00_10_00_F.MP4"};
+        for (const char* name : names) {
+            RecordingRecord record =
+                RecordingRecord::fromPath(folder.filePath(name), records.size());
+            record.displayName = RecordingName::displayName(record.filePath);
+            record.type = RecordingName::typeOf(record.filePath);
+            record.durationMs = 60000;
+            records.append(record);
+        }
+        QVector<DriveRecording> recordings;
+        for (const RecordingRecord& record : records)
+            recordings.append(DriveList::recordingOf(record));
+        // The second name's minute 60 is no time: it is left out. The others: a drive over
+        // midnight of three (one of them a one-file recording) and, after a gap, one more.
+        QCOMPARE(recordings.at(1).problem, -1);
+        QCOMPARE(describe(DriveGrouper::group(recordings), recordings),
+                 QString("%1,%2,%3|%4")
+                     .arg(recordings.at(0).path, recordings.at(2).path, recordings.at(3).path,
+                          recordings.at(4).path));
     }
 
     void thePlayListSkipsMomentsItHasPlayed() {
