@@ -153,6 +153,7 @@ int StreamReader::fillInfo(KDXInfo& info) const {
         telemetry.frameCount = m_telemetry->sampleCount();
         telemetry.durationMs = m_telemetry->durationMs();
         info.textDataPresent = telemetry.frameCount > 0 ? 1 : 0;
+        std::strncpy(info.telemetryKind, m_telemetry->kind(), sizeof info.telemetryKind - 1);
     }
     return KDX_OK;
 }

@@ -12,6 +12,7 @@ static_assert(sizeof(KDXInfo) == KDX_INFO_SIZE, "information record size");
 static_assert(offsetof(KDXInfo, totalRangeMs) == 4, "total range");
 static_assert(offsetof(KDXInfo, videoCount) == 16, "video count");
 static_assert(offsetof(KDXInfo, textDataPresent) == 20, "text flag");
+static_assert(offsetof(KDXInfo, telemetryKind) == 56, "telemetry kind");
 static_assert(offsetof(KDXInfo, tracks) == 6376, "track table");
 static_assert(sizeof(KDXTrackInfo) == 36, "track table entry");
 static_assert(offsetof(KDXTrackInfo, frameSize) == 0, "track frame size");

@@ -86,7 +86,9 @@ typedef struct KDXInfo {
     int32_t videoCount;      /* 16: number of video streams (cover pictures not counted) */
     int32_t textDataPresent; /* 20: non-zero when track 0 holds telemetry */
     char containerName[32];  /* 24: the demuxer's short name, NUL-terminated */
-    uint8_t reserved1[6320]; /* 56 */
+    char telemetryKind[32];  /* 56: where the telemetry was found ("GPMF", "freeGPS", ...),
+                                NUL-terminated; empty without telemetry */
+    uint8_t reserved1[6288]; /* 88 */
     KDXTrackInfo tracks[KDX_MAX_TRACKS]; /* 6376 */
     uint8_t reserved2[28];               /* 6556 */
 } KDXInfo;

@@ -129,6 +129,13 @@ int KDXData::KDX_GetTotalRange() {
     return static_cast<int>(wordAt(m_info, offsetof(KDXInfo, totalRangeMs)));
 }
 
+QString KDXData::telemetryKind() const {
+    if (m_info == nullptr)
+        return QString();
+    const char* kind = reinterpret_cast<const char*>(m_info) + offsetof(KDXInfo, telemetryKind);
+    return QString::fromLatin1(kind, int(qstrnlen(kind, sizeof(KDXInfo::telemetryKind))));
+}
+
 int KDXData::KDX_GetVideoTotalNum() {
     logDebug("KDXData::KDX_GetVideoTotalNum");
     return static_cast<int>(wordAt(m_info, offsetof(KDXInfo, videoCount)));

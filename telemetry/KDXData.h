@@ -32,6 +32,8 @@ public:
     int KDX_GetTextDataTotalCount();
     int KDX_GetTotalRange();
     int KDX_GetVideoTotalNum();
+    // Where the telemetry was found ("GPMF", "freeGPS", "timed text", ...); empty without.
+    QString telemetryKind() const;
 
     // The buffer of frame index as 32-bit values (see KDXTextFrame for the fields), or null
     // for an index out of range.

@@ -1,0 +1,275 @@
+#include "CommandLineTool.h"
+
+#include "AppGlobals.h"
+#include "DriveGrouper.h"
+#include "DriveList.h"
+#include "DriveTrace.h"
+#include "KDXData.h"
+#include "RecordingBatch.h"
+#include "RecordingName.h"
+
+#include <QCoreApplication>
+#include <QDateTime>
+#include <QDirIterator>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QMutex>
+#include <QThreadPool>
+
+#include <atomic>
+#include <cmath>
+#include <cstring>
+#include <unistd.h>
+
+namespace {
+
+const char* typeName(int type) {
+    switch (type) {
+    case 1:
+        return "infinity";
+    case 2:
+        return "event";
+    case 3:
+        return "parking";
+    case 4:
+        return "user";
+    default:
+        return "unknown";
+    }
+}
+
+void progress(int done, int total) {
+    if (isatty(fileno(stderr)) == 0)
+        return;
+    std::fprintf(stderr, "\rReading %d / %d", done, total);
+    if (done == total)
+        std::fprintf(stderr, "\n");
+    std::fflush(stderr);
+}
+
+} // namespace
+
+QString CommandLineTool::isoTime(qint64 ms) {
+    return QDateTime::fromMSecsSinceEpoch(ms, Qt::UTC)
+        .toString(QStringLiteral("yyyy-MM-ddTHH:mm:ss"));
+}
+
+QVector<RecordingRecord> CommandLineTool::collect(const QStringList& paths) {
+    QStringList files;
+    for (const QString& path : paths) {
+        const QFileInfo info(path);
+        if (info.isDir()) {
+            QDirIterator it(info.absoluteFilePath(), QDir::Files, QDirIterator::Subdirectories);
+            while (it.hasNext())
+                files << it.next();
+        } else if (info.isFile()) {
+            files << info.absoluteFilePath();
+        }
+    }
+    files.sort();
+    files.removeDuplicates();
+    bool rejected = false;
+    QStringList supported;
+    for (const QString& file : files)
+        if (RecordingName::isSupportedName(file))
+            supported << file;
+    QVector<RecordingRecord> records = RecordingBatch::fromPaths(supported, {}, &rejected);
+    std::stable_sort(records.begin(), records.end());
+    return records;
+}
+
+CommandLineTool::Facts CommandLineTool::read(const RecordingRecord& record) {
+    Facts facts;
+    facts.record = record;
+    const RecordingName::Length length = RecordingName::readLength(record.filePath);
+    facts.lengthMs = length.ms;
+    facts.problem = length.problem;
+    facts.cameras = record.hasChannelFiles()
+                        ? int(RecordingBatch::filesOnDisk(record.filePath).size())
+                        : length.videoCount;
+    if (length.problem != 0)
+        return facts;
+    alignas(8) unsigned char info[KDXData::kInfoSize];
+    KDXData reader(info);
+    if (reader.KDX_Open(record.filePath) == 0)
+        facts.telemetryKind = reader.telemetryKind();
+    reader.KDX_Close();
+    const QVector<TraceSample> samples = DriveTrace::readRecording(record.filePath);
+    facts.readings = samples.size();
+    for (const TraceSample& sample : samples)
+        facts.positions += sample.latitude != 0 || sample.longitude != 0;
+    return facts;
+}
+
+QVector<CommandLineTool::Facts> CommandLineTool::readAll(const QVector<RecordingRecord>& records,
+                                                         int jobs) {
+    QVector<Facts> all(records.size());
+    QThreadPool pool;
+    pool.setMaxThreadCount(qMax(1, jobs));
+    std::atomic<int> done{0};
+    QMutex report;
+    for (int i = 0; i < records.size(); ++i) {
+        pool.start([&, i] {
+            all[i] = read(records.at(i));
+            QMutexLocker lock(&report);
+            progress(++done, records.size());
+        });
+    }
+    pool.waitForDone();
+    return all;
+}
+
+QJsonObject CommandLineTool::describe(const Facts& facts) {
+    const qint64 start = DriveList::startOf(facts.record.displayName);
+    QJsonObject made{{"path", facts.record.filePath},
+                     {"name", facts.record.displayName},
+                     {"type", typeName(facts.record.type)},
+                     {"length_s", double(facts.lengthMs) / 1000.0},
+                     {"cameras", facts.cameras},
+                     {"telemetry", facts.telemetryKind.isEmpty() ? QJsonValue()
+                                                                 : QJsonValue(facts.telemetryKind)},
+                     {"readings", facts.readings},
+                     {"positions", facts.positions}};
+    made.insert("start", start >= 0 ? QJsonValue(isoTime(start)) : QJsonValue());
+    made.insert("problem", facts.problem != 0
+                               ? QJsonValue(RecordingName::problemText(facts.problem))
+                               : QJsonValue());
+    return made;
+}
+
+int CommandLineTool::info(const QStringList& paths, int jobs) {
+    const QVector<RecordingRecord> records = collect(paths);
+    const QVector<Facts> all = readAll(records, jobs);
+    QJsonArray list;
+    int readable = 0;
+    for (const Facts& facts : all) {
+        list.append(describe(facts));
+        readable += facts.problem == 0;
+    }
+    std::fputs(QJsonDocument(QJsonObject{{"recordings", list}}).toJson().constData(), stdout);
+    return readable > 0 ? Done : NothingRead;
+}
+
+int CommandLineTool::drives(const QStringList& paths, int jobs) {
+    const QVector<RecordingRecord> records = collect(paths);
+    const QVector<Facts> all = readAll(records, jobs);
+    QVector<DriveRecording> recordings;
+    for (const Facts& facts : all) {
+        RecordingRecord record = facts.record;
+        record.durationMs = facts.lengthMs;
+        record.problem = facts.problem;
+        recordings.append(DriveList::recordingOf(record));
+    }
+    const QVector<Drive> grouped = DriveGrouper::group(recordings);
+    QJsonArray list;
+    for (const Drive& drive : grouped) {
+        QJsonArray members;
+        for (int index : drive.recordings)
+            members.append(recordings.at(index).path);
+        QJsonArray incidents;
+        if (drive.kind == Drive::Driving) {
+            for (const Incident& incident :
+                 DriveTrace::incidents(drive, recordings, DriveTrace::read(drive, recordings),
+                                       IncidentDetector::Thresholds())) {
+                QJsonObject made{{"time", isoTime(drive.startMs + incident.timeMs)},
+                                 {"kind", Incident::kindKey(incident.kind)},
+                                 {"peak_g", std::round(incident.peakG * 1000.0) / 1000.0},
+                                 {"camera_event", incident.byCamera}};
+                if (incident.speedKmh >= 0)
+                    made.insert("speed_kmh", std::round(incident.speedKmh * 10.0) / 10.0);
+                incidents.append(made);
+            }
+        }
+        list.append(QJsonObject{{"kind", drive.kind == Drive::Parking ? "parking" : "driving"},
+                                {"start", isoTime(drive.startMs)},
+                                {"end", isoTime(drive.endMs)},
+                                {"length_s", double(drive.lengthMs()) / 1000.0},
+                                {"recordings", members},
+                                {"incidents", incidents}});
+    }
+    std::fputs(QJsonDocument(QJsonObject{{"drives", list}}).toJson().constData(), stdout);
+    return grouped.isEmpty() ? NothingRead : Done;
+}
+
+void CommandLineTool::usage(std::FILE* to, const QString& command) {
+    if (command == QLatin1String("info")) {
+        std::fputs("Usage: tavoric-cli info [-j N] PATH...\n"
+                   "Describes each recording among PATH (files, or folders with their\n"
+                   "subfolders) as one JSON document: {\"recordings\": [{\"path\", \"name\",\n"
+                   "\"start\", \"type\", \"length_s\", \"cameras\", \"telemetry\", \"readings\",\n"
+                   "\"positions\", \"problem\"}]}.\n"
+                   "  -j N   read N recordings at a time (default 1)\n"
+                   "Exit status: 0 done, 1 no recording could be read, 2 usage error.\n",
+                   to);
+        return;
+    }
+    if (command == QLatin1String("drives")) {
+        std::fputs("Usage: tavoric-cli drives [-j N] PATH...\n"
+                   "Groups the recordings among PATH into drives and parking spans and finds\n"
+                   "each drive's incidents: {\"drives\": [{\"kind\", \"start\", \"end\",\n"
+                   "\"length_s\", \"recordings\": [...], \"incidents\": [{\"time\", \"kind\",\n"
+                   "\"peak_g\", \"camera_event\", \"speed_kmh\"}]}]}. Times are ISO 8601 by the\n"
+                   "camera's clock, which keeps no time zone.\n"
+                   "  -j N   read N recordings at a time (default 1)\n"
+                   "Exit status: 0 done, 1 no drive could be made, 2 usage error.\n",
+                   to);
+        return;
+    }
+    std::fputs("Usage: tavoric-cli COMMAND [OPTIONS] PATH...\n"
+               "Commands:\n"
+               "  info     each recording's length, cameras, telemetry and positions\n"
+               "  drives   drives and parking spans with their incidents\n"
+               "tavoric-cli COMMAND --help tells more. Output is JSON on standard output.\n",
+               to);
+}
+
+int CommandLineTool::run(int argc, char** argv) {
+    QCoreApplication app(argc, argv);
+    // No status log: the tool's messages go to standard error.
+    AppGlobals::logLevel = -1;
+    QStringList args = app.arguments().mid(1);
+    if (args.isEmpty()) {
+        usage(stderr, QString());
+        return UsageError;
+    }
+    const QString command = args.takeFirst();
+    if (command == QLatin1String("--help") || command == QLatin1String("-h")) {
+        usage(stdout, QString());
+        return Done;
+    }
+    if (command != QLatin1String("info") && command != QLatin1String("drives")) {
+        std::fprintf(stderr, "tavoric-cli: unknown command \"%s\"\n", qPrintable(command));
+        usage(stderr, QString());
+        return UsageError;
+    }
+    int jobs = 1;
+    QStringList paths;
+    for (int i = 0; i < args.size(); ++i) {
+        const QString& arg = args.at(i);
+        if (arg == QLatin1String("--help") || arg == QLatin1String("-h")) {
+            usage(stdout, command);
+            return Done;
+        }
+        if (arg == QLatin1String("-j")) {
+            bool ok = false;
+            jobs = i + 1 < args.size() ? args.at(++i).toInt(&ok) : 0;
+            if (!ok || jobs < 1) {
+                std::fputs("tavoric-cli: -j takes a number of 1 or more\n", stderr);
+                return UsageError;
+            }
+            continue;
+        }
+        if (arg.startsWith('-')) {
+            std::fprintf(stderr, "tavoric-cli: unknown option \"%s\"\n", qPrintable(arg));
+            usage(stderr, command);
+            return UsageError;
+        }
+        paths << arg;
+    }
+    if (paths.isEmpty()) {
+        usage(stderr, command);
+        return UsageError;
+    }
+    return command == QLatin1String("info") ? info(paths, jobs) : drives(paths, jobs);
+}

@@ -1,0 +1,5 @@
+#include "CommandLineTool.h"
+
+int main(int argc, char** argv) {
+    return CommandLineTool::run(argc, argv);
+}
