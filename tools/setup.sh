@@ -16,6 +16,7 @@ TAVORIC_PACKAGES=(
     qtwebengine5-dev libjs-leaflet chromium
     xvfb xauth x11-apps imagemagick xdotool poppler-utils
     libbenchmark-dev g++-mingw-w64-x86-64 libimage-exiftool-perl
+    python3-gpxpy gdal-bin
     fonts-noto-core fonts-noto-cjk
 )
 

@@ -7,6 +7,7 @@
 #include "KDXData.h"
 #include "RecordingBatch.h"
 #include "RecordingName.h"
+#include "TrackWriter.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
@@ -15,12 +16,16 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QMutex>
+#include <QSaveFile>
 #include <QThreadPool>
 
 #include <atomic>
 #include <cmath>
 #include <cstring>
+#include <limits>
 #include <unistd.h>
+
+#define TAVORIC_TRACK_NAMESPACE "https://tavoric.org/xmlns/track/1"
 
 namespace {
 
@@ -192,6 +197,64 @@ int CommandLineTool::drives(const QStringList& paths, int jobs) {
     return grouped.isEmpty() ? NothingRead : Done;
 }
 
+int CommandLineTool::track(const QStringList& paths, int jobs, const TrackRequest& request) {
+    TrackWriter::Format format = TrackWriter::Gpx;
+    TrackWriter::formatOf(request.format, &format);
+    const QVector<Facts> all = readAll(collect(paths), jobs);
+    // The recordings one after the other on the time of the first.
+    QVector<DriveRecording> recordings;
+    Drive timeline;
+    for (const Facts& facts : all) {
+        RecordingRecord record = facts.record;
+        record.durationMs = facts.lengthMs;
+        record.problem = facts.problem;
+        recordings.append(DriveList::recordingOf(record));
+    }
+    for (int i = 0; i < recordings.size(); ++i)
+        if (recordings.at(i).playable())
+            timeline.playList.append(i);
+    std::stable_sort(timeline.playList.begin(), timeline.playList.end(), [&](int a, int b) {
+        return recordings.at(a).startMs < recordings.at(b).startMs;
+    });
+    if (timeline.playList.isEmpty()) {
+        std::fputs("tavoric-cli: no recording could be read\n", stderr);
+        return NothingRead;
+    }
+    timeline.recordings = timeline.playList;
+    timeline.startMs = recordings.at(timeline.playList.first()).startMs;
+    const QVector<TraceSample> whole = DriveTrace::read(timeline, recordings);
+    const qint64 from = qint64(request.fromS * 1000);
+    const qint64 to =
+        request.toS < 0 ? std::numeric_limits<qint64>::max() : qint64(request.toS * 1000);
+    QVector<TraceSample> range;
+    for (const TraceSample& sample : whole)
+        if (sample.timeMs >= from && sample.timeMs <= to)
+            range.append(sample);
+    if (!TrackWriter::hasPositions(range)) {
+        std::fputs("tavoric-cli: the recordings hold no GPS position in that range; no file "
+                   "was written\n",
+                   stderr);
+        return NothingRead;
+    }
+    QVector<Incident> incidents;
+    for (const Incident& incident :
+         DriveTrace::incidents(timeline, recordings, whole, IncidentDetector::Thresholds()))
+        if (incident.timeMs >= from && incident.timeMs <= to)
+            incidents.append(incident);
+    const QString name =
+        QFileInfo(recordings.at(timeline.playList.first()).path).completeBaseName();
+    const QByteArray contents =
+        TrackWriter::write(format, range, incidents, timeline.startMs, name);
+    QSaveFile file(request.output);
+    if (!file.open(QIODevice::WriteOnly) || file.write(contents) != contents.size() ||
+        !file.commit()) {
+        std::fprintf(stderr, "tavoric-cli: cannot write %s: %s\n", qPrintable(request.output),
+                     qPrintable(file.errorString()));
+        return NothingRead;
+    }
+    return Done;
+}
+
 void CommandLineTool::usage(std::FILE* to, const QString& command) {
     if (command == QLatin1String("info")) {
         std::fputs("Usage: tavoric-cli info [-j N] PATH...\n"
@@ -216,10 +279,23 @@ void CommandLineTool::usage(std::FILE* to, const QString& command) {
                    to);
         return;
     }
+    if (command == QLatin1String("track")) {
+        std::fputs("Usage: tavoric-cli track --format gpx|kml|csv|geojson [--from S] [--to S]\n"
+                   "                         -o FILE [-j N] PATH...\n"
+                   "Writes the track of the recordings among PATH, one after the other, as FILE:\n"
+                   "GPX 1.1 (speed and G in the namespace " TAVORIC_TRACK_NAMESPACE "),\n"
+                   "KML (route and incidents), CSV (time, latitude, longitude, speed_kmh, x, y,\n"
+                   "z) or GeoJSON (route and incidents). S: seconds from the start of the first\n"
+                   "recording. Recordings without a GPS position give a message and no file.\n"
+                   "Exit status: 0 done, 1 nothing could be read or written, 2 usage error.\n",
+                   to);
+        return;
+    }
     std::fputs("Usage: tavoric-cli COMMAND [OPTIONS] PATH...\n"
                "Commands:\n"
                "  info     each recording's length, cameras, telemetry and positions\n"
                "  drives   drives and parking spans with their incidents\n"
+               "  track    the track as GPX, KML, CSV or GeoJSON\n"
                "tavoric-cli COMMAND --help tells more. Output is JSON on standard output.\n",
                to);
 }
@@ -238,13 +314,22 @@ int CommandLineTool::run(int argc, char** argv) {
         usage(stdout, QString());
         return Done;
     }
-    if (command != QLatin1String("info") && command != QLatin1String("drives")) {
+    if (command != QLatin1String("info") && command != QLatin1String("drives") &&
+        command != QLatin1String("track")) {
         std::fprintf(stderr, "tavoric-cli: unknown command \"%s\"\n", qPrintable(command));
         usage(stderr, QString());
         return UsageError;
     }
     int jobs = 1;
+    TrackRequest request;
     QStringList paths;
+    // Options of track only, each with its value.
+    const auto value = [&](int* i, QString* out) {
+        if (command != QLatin1String("track") || *i + 1 >= args.size())
+            return false;
+        *out = args.at(++*i);
+        return true;
+    };
     for (int i = 0; i < args.size(); ++i) {
         const QString& arg = args.at(i);
         if (arg == QLatin1String("--help") || arg == QLatin1String("-h")) {
@@ -260,6 +345,25 @@ int CommandLineTool::run(int argc, char** argv) {
             }
             continue;
         }
+        if (arg == QLatin1String("--format") || arg == QLatin1String("-o")) {
+            if (!value(&i, arg == QLatin1String("-o") ? &request.output : &request.format)) {
+                std::fprintf(stderr, "tavoric-cli: %s needs a value\n", qPrintable(arg));
+                return UsageError;
+            }
+            continue;
+        }
+        if (arg == QLatin1String("--from") || arg == QLatin1String("--to")) {
+            QString text;
+            bool ok = false;
+            const double seconds = value(&i, &text) ? text.toDouble(&ok) : -1;
+            if (!ok || seconds < 0) {
+                std::fprintf(stderr, "tavoric-cli: %s takes seconds (0 or more)\n",
+                             qPrintable(arg));
+                return UsageError;
+            }
+            (arg == QLatin1String("--from") ? request.fromS : request.toS) = seconds;
+            continue;
+        }
         if (arg.startsWith('-')) {
             std::fprintf(stderr, "tavoric-cli: unknown option \"%s\"\n", qPrintable(arg));
             usage(stderr, command);
@@ -270,6 +374,17 @@ int CommandLineTool::run(int argc, char** argv) {
     if (paths.isEmpty()) {
         usage(stderr, command);
         return UsageError;
+    }
+    if (command == QLatin1String("track")) {
+        TrackWriter::Format format;
+        if (!TrackWriter::formatOf(request.format, &format) || request.output.isEmpty() ||
+            (request.toS >= 0 && request.toS <= request.fromS)) {
+            std::fputs("tavoric-cli: track needs --format gpx|kml|csv|geojson, -o FILE and a\n"
+                       "--to after --from\n",
+                       stderr);
+            return UsageError;
+        }
+        return track(paths, jobs, request);
     }
     return command == QLatin1String("info") ? info(paths, jobs) : drives(paths, jobs);
 }

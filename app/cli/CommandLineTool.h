@@ -13,6 +13,9 @@
 //
 //   tavoric-cli info PATH...     each recording: length, cameras, telemetry, positions
 //   tavoric-cli drives PATH...   the drives and parking spans, with their incidents
+//   tavoric-cli track --format gpx|kml|csv|geojson [--from S] [--to S] -o FILE PATH...
+//                                the recordings' track as a file (S: seconds from the start
+//                                of the first recording)
 //
 // PATH: recordings, or folders searched with their subfolders. One JSON document on standard
 // output. Exit status: 0 done, 1 nothing could be read, 2 a usage error. Progress goes to
@@ -45,6 +48,13 @@ public:
 private:
     static int info(const QStringList& paths, int jobs);
     static int drives(const QStringList& paths, int jobs);
+    struct TrackRequest {
+        QString format;
+        double fromS = 0;
+        double toS = -1;
+        QString output;
+    };
+    static int track(const QStringList& paths, int jobs, const TrackRequest& request);
     static QVector<Facts> readAll(const QVector<RecordingRecord>& records, int jobs);
     static QJsonObject describe(const Facts& facts);
     static void usage(std::FILE* to, const QString& command);
