@@ -163,8 +163,10 @@ QString DriveListView::incidentName(int kind) {
 }
 
 void DriveListView::readIncidents() {
+    // The readings still waiting or running for the last fill report nothing any more.
     m_cancel->store(true);
     m_cancel = std::make_shared<std::atomic<bool>>(false);
+    m_reading = 0;
     const std::shared_ptr<std::atomic<bool>> cancel = m_cancel;
     const QVector<DriveRecording> recordings = DriveList::recordings;
     const IncidentDetector::Thresholds thresholds = DriveList::thresholds;
