@@ -53,10 +53,10 @@ void fillTelemetry() {
         const double t = k / 10.0;
         const double braking = std::fmod(t, 300.0) < 3.0 ? -1.1 : 0.0;
         PlaybackState::gSensorList.append({k, float(0.03 * std::sin(t * 7.1) + braking),
-                                             float(0.04 * std::sin(t * 3.3)),
-                                             float(1.0 + 0.05 * std::sin(t * 11.7))});
+                                           float(0.04 * std::sin(t * 3.3)),
+                                           float(1.0 + 0.05 * std::sin(t * 11.7))});
         PlaybackState::gpsList.append({k, float(37.4 + t * 1e-5), float(127.1 + t * 1e-5),
-                                         float(40 + 20 * std::sin(t / 60)), 0, 0});
+                                       float(40 + 20 * std::sin(t / 60)), 0, 0});
     }
     PlaybackState::telemetryPresent = true;
     PlaybackState::playStatus = PlaybackState::PlayRunning;

@@ -124,8 +124,8 @@ void SaveAsView::onChangeMode(int mode) {
 
 void SaveAsView::onChangePath() {
     logDebug("SaveAsView::onChangePath");
-    const QString folder =
-        TavPrompt::openFolder(this, tr("Search Folder"), QDir::fromNativeSeparators(m_path->text()));
+    const QString folder = TavPrompt::openFolder(this, tr("Search Folder"),
+                                                 QDir::fromNativeSeparators(m_path->text()));
     if (!folder.isEmpty())
         m_path->setText(QDir::toNativeSeparators(folder));
 }

@@ -15,7 +15,6 @@
 #include <algorithm>
 #include <cstring>
 
-
 namespace {
 
 // A stop that has not finished after this long will not finish; waiting on would freeze
@@ -165,8 +164,8 @@ void PlayerInterface::readTelemetry() {
         KDXTextFrame frame;
         std::memcpy(&frame, buffer, sizeof frame);
         gSensorList.append({i, frame.gSensorX, frame.gSensorY, frame.gSensorZ});
-        gpsList.append({i, frame.latitude, frame.longitude, frame.speed,
-                        int(frame.gpsFlags & 3u), int((frame.gpsFlags >> 2) & 3u)});
+        gpsList.append({i, frame.latitude, frame.longitude, frame.speed, int(frame.gpsFlags & 3u),
+                        int((frame.gpsFlags >> 2) & 3u)});
     }
     if (!gSensorList.isEmpty() && !gpsList.isEmpty()) {
         gpsPresent = true;

@@ -69,8 +69,8 @@ int RecordingList::nextRow() {
 }
 
 int RecordingList::shownRowAfter(int row) {
-    const auto later =
-        std::find_if(visibleRows.cbegin(), visibleRows.cend(), [row](int shown) { return shown > row; });
+    const auto later = std::find_if(visibleRows.cbegin(), visibleRows.cend(),
+                                    [row](int shown) { return shown > row; });
     return later == visibleRows.cend() ? -1 : *later;
 }
 

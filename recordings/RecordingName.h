@@ -82,10 +82,10 @@ public:
     // Why a listed file cannot be played.
     enum Problem {
         NoProblem = 0,
-        EmptyFile,  // nothing in it (a copy that never finished)
-        NotAVideo,  // not a video recording at all (a text file named .mp4, say)
-        Damaged,    // a recording's container that cannot be opened: cut off, or broken
-        NoVideo,    // a container without any picture in it
+        EmptyFile, // nothing in it (a copy that never finished)
+        NotAVideo, // not a video recording at all (a text file named .mp4, say)
+        Damaged,   // a recording's container that cannot be opened: cut off, or broken
+        NoVideo,   // a container without any picture in it
     };
     struct Length {
         QString text;       // MM:SS, empty when the file cannot be read

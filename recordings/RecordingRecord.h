@@ -18,7 +18,7 @@ struct RecordingRecord {
     std::array<QString, 4> suffixes;
     int suffixCount = 1;
     int type = 0;
-    QString durationText; // MM:SS once the length has been read
+    QString durationText;  // MM:SS once the length has been read
     qint64 durationMs = 0; // the same in milliseconds
     // A RecordingName::Problem once the file was found unplayable when its length was read.
     int problem = 0;

@@ -5,10 +5,10 @@
 #include "AboutView.h"
 #include "AppGlobals.h"
 #include "CardSession.h"
-#include "ExportSession.h"
 #include "ChartView.h"
 #include "DriveListView.h"
 #include "DrivePlayback.h"
+#include "ExportSession.h"
 #include "Frameless.h"
 #include "LanguageView.h"
 #include "MainWindow.h"
@@ -421,8 +421,11 @@ private slots:
         const QRect frame = dialog.frameGeometry();
         QVERIFY2(box.width() <= frame.width() && box.top() >= frame.top() + 40 &&
                      box.left() >= frame.left() - 1,
-                 qPrintable(QStringLiteral("box %1,%2 %3x%4").arg(box.x()).arg(box.y())
-                                .arg(box.width()).arg(box.height())));
+                 qPrintable(QStringLiteral("box %1,%2 %3x%4")
+                                .arg(box.x())
+                                .arg(box.y())
+                                .arg(box.width())
+                                .arg(box.height())));
         QCOMPARE(text.remove('\n'), "Complete to Save Snapshot!" + path);
     }
 
@@ -520,8 +523,8 @@ private slots:
         QVERIFY(player && topBar && shortcuts && control && map && list && combo && typeList &&
                 screen && back && sub1 && sub2 && drives && driveList);
         QStringList missing;
-#define ROUTE(sender, signal, receiver, slot)                                                \
-    if (!QObject::disconnect(sender, &signal, receiver, &slot))                                \
+#define ROUTE(sender, signal, receiver, slot)                                                      \
+    if (!QObject::disconnect(sender, &signal, receiver, &slot))                                    \
     missing << QStringLiteral(#sender " " #signal " -> " #receiver " " #slot)
         ROUTE(player, PlayerInterface::onSendLogoSet, self, MainWindow::onShowLogo);
         ROUTE(player, PlayerInterface::onSetBlockEvent, self, MainWindow::onBlockEvent);
@@ -536,8 +539,7 @@ private slots:
               TavFileListItem::onOpenFolderDlg);
         ROUTE(shortcuts, TavShortcutTable::onSendSignalMemory, self, MainWindow::openSDCardDlg);
         ROUTE(shortcuts, TavShortcutTable::onSendSignalPrint, self, MainWindow::openPrintDlg);
-        ROUTE(shortcuts, TavShortcutTable::onSendSignalLanguage, self,
-              MainWindow::openLangaugeDlg);
+        ROUTE(shortcuts, TavShortcutTable::onSendSignalLanguage, self, MainWindow::openLangaugeDlg);
         ROUTE(shortcuts, TavShortcutTable::onSendCapture, control,
               PlayControlView::onClick_bCapture);
         ROUTE(shortcuts, TavShortcutTable::onSendSignalSetting, self, MainWindow::openSettingDlg);
@@ -571,10 +573,8 @@ private slots:
         if (!QObject::disconnect(drives, &DrivePlayback::playFile, player,
                                  qOverload<const QString&>(&PlayerInterface::checkFileReady)))
             missing << "drives playFile -> player checkFileReady(file)";
-        ROUTE(child<QPushButton>("bDrives"), QPushButton::clicked, self,
-              MainWindow::onRaiseDrives);
-        ROUTE(control, PlayControlView::onSendChangeSpeed, player,
-              PlayerInterface::onControlSpeed);
+        ROUTE(child<QPushButton>("bDrives"), QPushButton::clicked, self, MainWindow::onRaiseDrives);
+        ROUTE(control, PlayControlView::onSendChangeSpeed, player, PlayerInterface::onControlSpeed);
         ROUTE(control, PlayControlView::onClickedMute, player, PlayerInterface::onSetMute);
         ROUTE(control, PlayControlView::onSendVolumeChange, player,
               PlayerInterface::onControlVolume);
@@ -615,8 +615,7 @@ private slots:
         // The pop-up's chosen types go to the filter's face, and whether it is open to the
         // face's button.
         ROUTE(typeList, TavTypeList::onSendCurrentType, combo, TavFileComboBox::onUpdateSetData);
-        ROUTE(typeList, TavTypeList::onSendTypeListSet, combo,
-              TavFileComboBox::onUpdateListState);
+        ROUTE(typeList, TavTypeList::onSendTypeListSet, combo, TavFileComboBox::onUpdateListState);
         ROUTE(self, MainWindow::onSendFileList, list, TavFileListItem::onReceiveFileList);
         ROUTE(self, MainWindow::onSendStopItemThread, list, TavFileListItem::onSendThreadStop);
         ROUTE(list, TavFileListItem::onSendFinishReadFileTime, list,

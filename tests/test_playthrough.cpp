@@ -120,9 +120,8 @@ class TestPlaythrough : public QObject {
     // the scene in view.
     int mainSide() const {
         auto* frame = m_window->findChild<SubSceneBackWidget*>();
-        const QRect hidden = frame->isVisible()
-                                 ? QRect(frame->mapToGlobal(QPoint(0, 0)), frame->size())
-                                 : QRect();
+        const QRect hidden =
+            frame->isVisible() ? QRect(frame->mapToGlobal(QPoint(0, 0)), frame->size()) : QRect();
         return frameNumberSide(m_main, true, hidden);
     }
 
@@ -466,9 +465,9 @@ private slots:
         QVERIFY(CardFixture::writeFile(
             ConfigAccess::configPath(root),
             CardFixture::configBin(
-                model, CardFixture::blocks(CardFixture::layout(
-                                               CardFixture::shippedJson("configStr.json"), model),
-                                           {}))));
+                model,
+                CardFixture::blocks(
+                    CardFixture::layout(CardFixture::shippedJson("configStr.json"), model), {}))));
         QVERIFY(QDir().mkpath(root + "/Normal"));
         for (const char* name : {"20240301_090000_INF_1.mp4", "20240301_090000_INF_2.mp4",
                                  "20240301_090000_INF_3.mp4", "20240301_092000_USR_4.mp4"})
@@ -494,7 +493,8 @@ private slots:
         // Still listed once the player's checks (every 500 ms) have had their turn.
         QTest::qWait(1200);
         QCOMPARE(RecordingList::records.size(), 2);
-        QVERIFY(RecordingList::records.at(1).filePath.endsWith("/Normal/20240301_092000_USR_4.mp4"));
+        QVERIFY(
+            RecordingList::records.at(1).filePath.endsWith("/Normal/20240301_092000_USR_4.mp4"));
         QCOMPARE(VLCComponent::playerState, int(VLCComponent::Stopped));
         // And they play from the card.
         const QPoint cell = m_list->visualItemRect(m_list->item(0, 1)).center();

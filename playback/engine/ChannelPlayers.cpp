@@ -24,9 +24,8 @@ libvlc_instance_t* ChannelPlayers::newInstance(bool mirrored) {
         "--no-keyboard-events", "--no-mouse-events", "--mouse-hide-timeout=-1",
         "--no-sub-autodetect-file", "--no-interact", "--no-stats", "--no-snapshot-preview",
         // Without it libvlc writes each snapshot's file path over the picture for a while.
-        "--no-osd",
-        "--no-snapshot-sequential", "--avcodec-threads=0", "--file-caching=1000", "--verbose=1",
-        "--clock-jitter=5000", "--clock-synchro=0",
+        "--no-osd", "--no-snapshot-sequential", "--avcodec-threads=0", "--file-caching=1000",
+        "--verbose=1", "--clock-jitter=5000", "--clock-synchro=0",
         // the mirroring instance only:
         "--video-filter=transform", "--transform-type=hflip"};
     constexpr int kAll = int(sizeof args / sizeof args[0]);
