@@ -1,5 +1,6 @@
 #include "DrivePlayback.h"
 
+#include "DriveGrouper.h"
 #include "DriveTrace.h"
 #include "PlaybackState.h"
 #include "StatusLog.h"
@@ -106,9 +107,7 @@ void DrivePlayback::onRecordingSet() {
 
 void DrivePlayback::setIncidents(const QString& playListKey, const QVector<Incident>& incidents,
                                  const QVector<TraceSample>& trace) {
-    QString key;
-    for (int index : m_drive.playList)
-        key += m_recordings.at(index).path + '\n';
+    const QString key = DriveGrouper::playListKey(m_drive, m_recordings);
     if (!isActive() || key != playListKey)
         return;
     m_drive.incidents = incidents;

@@ -74,10 +74,7 @@ int DriveList::driveOf(int record) {
 }
 
 QString DriveList::key(const Drive& drive, const QVector<DriveRecording>& from) {
-    QString made;
-    for (int index : drive.playList)
-        made += from.at(index).path + '\n';
-    return made;
+    return DriveGrouper::playListKey(drive, from);
 }
 
 void DriveList::setIncidents(const QString& key, const QVector<Incident>& incidents,

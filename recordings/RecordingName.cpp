@@ -230,6 +230,7 @@ RecordingName::Length RecordingName::readLength(const QString& path) {
     length.ms = qMax(0, reader.KDX_GetTotalRange());
     const int seconds = int(length.ms / 1000);
     length.videoCount = qMax(0, reader.KDX_GetVideoTotalNum());
+    length.telemetryKind = reader.telemetryKind();
     reader.KDX_Close();
     if (length.videoCount == 0)
         length.problem = NoVideo;

@@ -91,6 +91,7 @@ public:
         QString text;       // MM:SS, empty when the file cannot be read
         int videoCount = 0; // video tracks; 0 when the file cannot be read
         qint64 ms = 0;      // the length in milliseconds; 0 when the file cannot be read
+        QString telemetryKind; // where its telemetry was found; empty without
         int problem = NoProblem;
     };
     // What the user is told about a problem; empty for none.

@@ -4,7 +4,6 @@
 #include "DriveGrouper.h"
 #include "DriveList.h"
 #include "DriveTrace.h"
-#include "KDXData.h"
 #include "RecordingBatch.h"
 #include "RecordingName.h"
 #include "TrackWriter.h"
@@ -84,7 +83,7 @@ QVector<RecordingRecord> CommandLineTool::collect(const QStringList& paths) {
     return records;
 }
 
-CommandLineTool::Facts CommandLineTool::read(const RecordingRecord& record) {
+CommandLineTool::Facts CommandLineTool::read(const RecordingRecord& record, bool countReadings) {
     Facts facts;
     facts.record = record;
     const RecordingName::Length length = RecordingName::readLength(record.filePath);
@@ -93,13 +92,9 @@ CommandLineTool::Facts CommandLineTool::read(const RecordingRecord& record) {
     facts.cameras = record.hasChannelFiles()
                         ? int(RecordingBatch::filesOnDisk(record.filePath).size())
                         : length.videoCount;
-    if (length.problem != 0)
+    facts.telemetryKind = length.telemetryKind;
+    if (length.problem != 0 || !countReadings)
         return facts;
-    alignas(8) unsigned char info[KDXData::kInfoSize];
-    KDXData reader(info);
-    if (reader.KDX_Open(record.filePath) == 0)
-        facts.telemetryKind = reader.telemetryKind();
-    reader.KDX_Close();
     const QVector<TraceSample> samples = DriveTrace::readRecording(record.filePath);
     facts.readings = samples.size();
     for (const TraceSample& sample : samples)
@@ -108,7 +103,7 @@ CommandLineTool::Facts CommandLineTool::read(const RecordingRecord& record) {
 }
 
 QVector<CommandLineTool::Facts> CommandLineTool::readAll(const QVector<RecordingRecord>& records,
-                                                         int jobs) {
+                                                         int jobs, bool countReadings) {
     QVector<Facts> all(records.size());
     QThreadPool pool;
     pool.setMaxThreadCount(qMax(1, jobs));
@@ -116,7 +111,7 @@ QVector<CommandLineTool::Facts> CommandLineTool::readAll(const QVector<Recording
     QMutex report;
     for (int i = 0; i < records.size(); ++i) {
         pool.start([&, i] {
-            all[i] = read(records.at(i));
+            all[i] = read(records.at(i), countReadings);
             QMutexLocker lock(&report);
             progress(++done, records.size());
         });
@@ -145,7 +140,7 @@ QJsonObject CommandLineTool::describe(const Facts& facts) {
 
 int CommandLineTool::info(const QStringList& paths, int jobs) {
     const QVector<RecordingRecord> records = collect(paths);
-    const QVector<Facts> all = readAll(records, jobs);
+    const QVector<Facts> all = readAll(records, jobs, true);
     QJsonArray list;
     int readable = 0;
     for (const Facts& facts : all) {
@@ -158,7 +153,7 @@ int CommandLineTool::info(const QStringList& paths, int jobs) {
 
 int CommandLineTool::drives(const QStringList& paths, int jobs) {
     const QVector<RecordingRecord> records = collect(paths);
-    const QVector<Facts> all = readAll(records, jobs);
+    const QVector<Facts> all = readAll(records, jobs, false);
     QVector<DriveRecording> recordings;
     for (const Facts& facts : all) {
         RecordingRecord record = facts.record;
@@ -200,7 +195,7 @@ int CommandLineTool::drives(const QStringList& paths, int jobs) {
 int CommandLineTool::track(const QStringList& paths, int jobs, const TrackRequest& request) {
     TrackWriter::Format format = TrackWriter::Gpx;
     TrackWriter::formatOf(request.format, &format);
-    const QVector<Facts> all = readAll(collect(paths), jobs);
+    const QVector<Facts> all = readAll(collect(paths), jobs, false);
     // The recordings one after the other on the time of the first.
     QVector<DriveRecording> recordings;
     Drive timeline;

@@ -40,8 +40,9 @@ public:
     // The recordings among paths (folders searched with their subfolders), one per
     // recording as the viewer's list has them, in the list's order.
     static QVector<RecordingRecord> collect(const QStringList& paths);
-    // Reads a recording's header and telemetry.
-    static Facts read(const RecordingRecord& record);
+    // Reads a recording's header, and its telemetry's readings and positions when
+    // countReadings is set (drives and track read the telemetry in their own trace).
+    static Facts read(const RecordingRecord& record, bool countReadings);
     // The camera's clock as ISO 8601 without a zone (cameras keep no zone).
     static QString isoTime(qint64 ms);
 
@@ -55,7 +56,8 @@ private:
         QString output;
     };
     static int track(const QStringList& paths, int jobs, const TrackRequest& request);
-    static QVector<Facts> readAll(const QVector<RecordingRecord>& records, int jobs);
+    static QVector<Facts> readAll(const QVector<RecordingRecord>& records, int jobs,
+                                  bool countReadings);
     static QJsonObject describe(const Facts& facts);
     static void usage(std::FILE* to, const QString& command);
 };

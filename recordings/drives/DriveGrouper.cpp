@@ -32,6 +32,13 @@ void makePlayList(Drive& drive, const QVector<DriveRecording>& recordings) {
 
 } // namespace
 
+QString DriveGrouper::playListKey(const Drive& drive, const QVector<DriveRecording>& recordings) {
+    QString made;
+    for (int index : drive.playList)
+        made += recordings.at(index).path + '\n';
+    return made;
+}
+
 QVector<Drive> DriveGrouper::group(const QVector<DriveRecording>& recordings, const Rules& rules) {
     std::vector<int> order(size_t(recordings.size()));
     std::iota(order.begin(), order.end(), 0);

@@ -32,4 +32,8 @@ public:
     static QVector<Drive> group(const QVector<DriveRecording>& recordings) {
         return group(recordings, Rules());
     }
+
+    // What identifies a drive between groupings (its incidents, the one that plays): the
+    // files of its play list.
+    static QString playListKey(const Drive& drive, const QVector<DriveRecording>& recordings);
 };
