@@ -148,18 +148,7 @@ void DriveListView::showCounts(int drive) {
 }
 
 QString DriveListView::incidentName(int kind) {
-    switch (kind) {
-    case Incident::HarshBraking:
-        return tr("Harsh braking");
-    case Incident::HarshAcceleration:
-        return tr("Harsh acceleration");
-    case Incident::SharpTurn:
-        return tr("Sharp turn");
-    case Incident::Impact:
-        return tr("Impact");
-    default:
-        return tr("Camera event");
-    }
+    return Incident::kindText(Incident::Kind(kind));
 }
 
 void DriveListView::readIncidents() {

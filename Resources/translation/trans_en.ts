@@ -76,26 +76,6 @@
       <source>Drive</source>
       <translation>Drive</translation>
     </message>
-    <message>
-      <source>Harsh braking</source>
-      <translation>Harsh braking</translation>
-    </message>
-    <message>
-      <source>Harsh acceleration</source>
-      <translation>Harsh acceleration</translation>
-    </message>
-    <message>
-      <source>Sharp turn</source>
-      <translation>Sharp turn</translation>
-    </message>
-    <message>
-      <source>Impact</source>
-      <translation>Impact</translation>
-    </message>
-    <message>
-      <source>Camera event</source>
-      <translation>Camera event</translation>
-    </message>
   </context>
   <context>
     <name>ExportSession</name>
@@ -163,7 +143,7 @@
     </message>
   </context>
   <context>
-    <name>IncidentListView</name>
+    <name>Incident</name>
     <message>
       <source>Harsh braking</source>
       <translation>Harsh braking</translation>
@@ -184,6 +164,9 @@
       <source>Camera event</source>
       <translation>Camera event</translation>
     </message>
+  </context>
+  <context>
+    <name>IncidentListView</name>
     <message>
       <source>The camera recorded this moment as an event.</source>
       <translation>The camera recorded this moment as an event.</translation>

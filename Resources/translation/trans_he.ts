@@ -76,26 +76,6 @@
       <source>Drive</source>
       <translation>נסיעה</translation>
     </message>
-    <message>
-      <source>Harsh braking</source>
-      <translation>בלימה חדה</translation>
-    </message>
-    <message>
-      <source>Harsh acceleration</source>
-      <translation>האצה חדה</translation>
-    </message>
-    <message>
-      <source>Sharp turn</source>
-      <translation>פנייה חדה</translation>
-    </message>
-    <message>
-      <source>Impact</source>
-      <translation>מכה</translation>
-    </message>
-    <message>
-      <source>Camera event</source>
-      <translation>אירוע מצלמה</translation>
-    </message>
   </context>
   <context>
     <name>ExportSession</name>
@@ -163,7 +143,7 @@
     </message>
   </context>
   <context>
-    <name>IncidentListView</name>
+    <name>Incident</name>
     <message>
       <source>Harsh braking</source>
       <translation>בלימה חדה</translation>
@@ -184,6 +164,9 @@
       <source>Camera event</source>
       <translation>אירוע מצלמה</translation>
     </message>
+  </context>
+  <context>
+    <name>IncidentListView</name>
     <message>
       <source>The camera recorded this moment as an event.</source>
       <translation>המצלמה הקליטה את הרגע הזה כאירוע.</translation>

@@ -76,26 +76,6 @@
       <source>Drive</source>
       <translation>주행</translation>
     </message>
-    <message>
-      <source>Harsh braking</source>
-      <translation>급제동</translation>
-    </message>
-    <message>
-      <source>Harsh acceleration</source>
-      <translation>급가속</translation>
-    </message>
-    <message>
-      <source>Sharp turn</source>
-      <translation>급회전</translation>
-    </message>
-    <message>
-      <source>Impact</source>
-      <translation>충격</translation>
-    </message>
-    <message>
-      <source>Camera event</source>
-      <translation>카메라 이벤트</translation>
-    </message>
   </context>
   <context>
     <name>ExportSession</name>
@@ -163,7 +143,7 @@
     </message>
   </context>
   <context>
-    <name>IncidentListView</name>
+    <name>Incident</name>
     <message>
       <source>Harsh braking</source>
       <translation>급제동</translation>
@@ -184,6 +164,9 @@
       <source>Camera event</source>
       <translation>카메라 이벤트</translation>
     </message>
+  </context>
+  <context>
+    <name>IncidentListView</name>
     <message>
       <source>The camera recorded this moment as an event.</source>
       <translation>카메라가 이 순간을 이벤트로 녹화했습니다.</translation>

@@ -25,4 +25,6 @@ struct Incident {
     // "harsh_braking", "harsh_acceleration", "sharp_turn", "impact", "camera_event": the
     // names scripts and files use.
     static const char* kindKey(Kind kind);
+    // What the user reads for a kind, in the interface language.
+    static QString kindText(Kind kind);
 };

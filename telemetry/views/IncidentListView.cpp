@@ -36,18 +36,7 @@ IncidentListView::IncidentListView(QWidget* parent) : QListWidget(parent) {
 }
 
 QString IncidentListView::kindText(int kind) {
-    switch (kind) {
-    case Incident::HarshBraking:
-        return tr("Harsh braking");
-    case Incident::HarshAcceleration:
-        return tr("Harsh acceleration");
-    case Incident::SharpTurn:
-        return tr("Sharp turn");
-    case Incident::Impact:
-        return tr("Impact");
-    default:
-        return tr("Camera event");
-    }
+    return Incident::kindText(Incident::Kind(kind));
 }
 
 QString IncidentListView::rowText(const Incident& incident, int speedUnit) {
